@@ -1,0 +1,51 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/data/servers/ServerId.h"
+
+#include <string>
+
+namespace Korv::Plurex::Data::Timelines {
+
+// A timeline (an edit sequence held on a server): its number, 0 to 109, and its server.
+class PLUREXDATA_API TimelineId {
+public:
+    // Number 0 on no server; what IsNullOrEmpty recognises.
+    static const TimelineId cEmpty;
+
+    TimelineId();
+    // Throws as SetNumber and SetServerId do.
+    TimelineId(int number, const Servers::ServerId& server);
+
+    int GetNumber() const noexcept { return number_; }
+    Servers::ServerId GetServerId() const { return server_; }
+
+    // Throws std::invalid_argument("invalid number") outside 0 to 109, leaving the number unchanged.
+    void SetNumber(int number);
+    void SetServerId(const Servers::ServerId& server);
+    // A null `server` throws std::invalid_argument("null ServerId").
+    void SetServerId(const Servers::ServerId* server);
+
+    // this number - other number; 1 for a null `other`. The server takes no part: timelines of two
+    // servers with one number compare as 0. Kept so, as every caller's ordering depends on it.
+    int CompareTo(const TimelineId& other) const noexcept;
+    int CompareTo(const TimelineId* other) const noexcept;
+    // Same number and same server; false for a null `other`.
+    bool Equals(const TimelineId& other) const noexcept;
+    bool Equals(const TimelineId* other) const noexcept;
+    bool operator==(const TimelineId& other) const noexcept { return Equals(other); }
+    bool operator!=(const TimelineId& other) const noexcept { return !Equals(other); }
+
+    // True for a null `id` or one equal to cEmpty.
+    static bool IsNullOrEmpty(const TimelineId& id) noexcept;
+    static bool IsNullOrEmpty(const TimelineId* id) noexcept;
+
+    // The number in 3 digits, "/", then the server's text: "007/   10".
+    std::string ToString() const;
+
+private:
+    int number_;
+    Servers::ServerId server_;
+};
+
+}  // namespace Korv::Plurex::Data::Timelines

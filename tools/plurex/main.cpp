@@ -1,0 +1,29 @@
+// plurex: the library's data model on the command line, for the engineers who debug what crosses
+// the wire. Errors print the library's own message with status 1; usage errors give status 2.
+#include "Commands.h"
+#include "Output.h"
+
+#include <exception>
+#include <iostream>
+
+int main(int argc, char** argv) {
+    CLI::App app{"Make, read and check the identifiers, records and texts that PlurexData devices exchange.",
+                 "plurex"};
+    PlurexTool::Options options;
+    app.add_flag("--json", options.json, "Print structured output as JSON");
+    app.require_subcommand(1);
+    app.fallthrough();
+
+    PlurexTool::AddIdentifierCommands(app, options);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        const int status = app.exit(error);
+        return status == 0 ? 0 : 2;
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}
