@@ -35,7 +35,8 @@ void FuzzUmId(const std::string& text, bool unicode) {
     const int edit = UmId::GetUmIdEditNumber(id);
     Check(edit >= -1 && edit <= 999);
     Check(edit == -1 || UmId::IsMacroClip(id));
-    Check(UmId::IsPatternClip(id) == (UmId::IsBlackClip(id) || UmId::IsWhiteClip(id) || UmId::IsVirtualClip(id)));
+    Check(UmId::IsPatternClip(id) ==
+          (UmId::IsBlackClip(id) || UmId::IsWhiteClip(id) || UmId::IsVirtualClip(id)));
 }
 
 void FuzzKepId(int page, int bank, int clip, char camera, int server, int packed) {

@@ -106,10 +106,16 @@ unsigned char* Guid::ToBinary(unsigned char* out, unsigned int size) const noexc
     return out;
 }
 
-bool Guid::operator==(const Guid& other) const noexcept { return std::memcmp(bytes_, other.bytes_, Size) == 0; }
+bool Guid::operator==(const Guid& other) const noexcept {
+    return std::memcmp(bytes_, other.bytes_, Size) == 0;
+}
 
-bool Guid::operator!=(const Guid& other) const noexcept { return !(*this == other); }
+bool Guid::operator!=(const Guid& other) const noexcept {
+    return !(*this == other);
+}
 
-bool Guid::operator<(const Guid& other) const noexcept { return std::memcmp(bytes_, other.bytes_, Size) < 0; }
+bool Guid::operator<(const Guid& other) const noexcept {
+    return std::memcmp(bytes_, other.bytes_, Size) < 0;
+}
 
 }  // namespace Korv::Plurex::Data

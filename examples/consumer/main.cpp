@@ -14,5 +14,6 @@ int main() {
               << "kep id  " << clip.ToString() << '\n'
               << "guid    " << parsed.ToString() << '\n'
               << "random  " << Guid().ToString() << '\n';
-    return parsed.ToString() == "00112233-4455-6677-8899-aabbccddeeff" && clip.ToString() == "123B/   10" ? 0 : 1;
+    return parsed.ToString() == "00112233-4455-6677-8899-aabbccddeeff" && clip.ToString() == "123B/   10" ? 0
+                                                                                                          : 1;
 }

@@ -46,11 +46,12 @@ TEST(Guid, FromStringAcceptsTheHyphenatedFormInEitherCase) {
 }
 
 TEST(Guid, FromStringGivesTheEmptyGuidForAnythingElse) {
-    for (const char* text : {"{00112233-4455-6677-8899-aabbccddeeff}", "00112233445566778899aabbccddeeff",
-                             " 00112233-4455-6677-8899-aabbccddeeff", "00112233-4455-6677-8899-aabbccddeeff ",
-                             "00112233-4455-6677-8899-aabbccddeeff\n", "", "00112233-4455-6677-8899-aabbccddeef",
-                             "00112233-4455-6677-8899-aabbccddeefg", "0011223-34455-6677-8899-aabbccddeeff",
-                             "00112233-4455-6677-8899_aabbccddeeff", "00112233-4455-6677-8899-aabbccddeeff0"}) {
+    for (const char* text :
+         {"{00112233-4455-6677-8899-aabbccddeeff}", "00112233445566778899aabbccddeeff",
+          " 00112233-4455-6677-8899-aabbccddeeff", "00112233-4455-6677-8899-aabbccddeeff ",
+          "00112233-4455-6677-8899-aabbccddeeff\n", "", "00112233-4455-6677-8899-aabbccddeef",
+          "00112233-4455-6677-8899-aabbccddeefg", "0011223-34455-6677-8899-aabbccddeeff",
+          "00112233-4455-6677-8899_aabbccddeeff", "00112233-4455-6677-8899-aabbccddeeff0"}) {
         EXPECT_EQ(Guid::FromString(text), Guid::Empty()) << '"' << text << '"';
     }
 }

@@ -61,7 +61,8 @@ void AddGuid(CLI::App& root, const Options& options) {
 }
 
 void AddServerGuid(CLI::App& root, const Options& options) {
-    auto* serverGuid = root.add_subcommand("server-guid", "Make and read server GUIDs (type and machine serial)");
+    auto* serverGuid =
+        root.add_subcommand("server-guid", "Make and read server GUIDs (type and machine serial)");
     serverGuid->require_subcommand(1);
 
     auto* make = serverGuid->add_subcommand("make", "Print the GUID of a server");
@@ -74,7 +75,8 @@ void AddServerGuid(CLI::App& root, const Options& options) {
         Print(options, nlohmann::json{{"guid", guid.ToString()}}, guid.ToString());
     });
 
-    auto* read = serverGuid->add_subcommand("read", "Print the type and machine serial that a server GUID carries");
+    auto* read =
+        serverGuid->add_subcommand("read", "Print the type and machine serial that a server GUID carries");
     auto text = std::make_shared<std::string>();
     read->add_option("TEXT", *text, "The server GUID")->required();
     read->callback([&options, text] {
@@ -89,7 +91,9 @@ void AddServerGuid(CLI::App& root, const Options& options) {
 void AddServerId(CLI::App& root, const Options& options) {
     auto* serverId = root.add_subcommand("server-id", "Check a server number and print its text form");
     auto number = std::make_shared<int>(0);
-    serverId->add_option("N", *number, "-1, or a positive multiple of 10")->required()->allow_extra_args(false);
+    serverId->add_option("N", *number, "-1, or a positive multiple of 10")
+        ->required()
+        ->allow_extra_args(false);
     serverId->callback([&options, number] {
         const ServerId id(*number);
         Print(options, nlohmann::json{{"value", id.GetValue()}, {"text", id.ToString()}}, id.ToString());

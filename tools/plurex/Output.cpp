@@ -7,7 +7,9 @@ namespace PlurexTool {
 
 namespace {
 // Text fields may hold bytes that are not UTF-8; JSON output replaces them rather than failing.
-std::string Dump(const nlohmann::json& json) { return json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace); }
+std::string Dump(const nlohmann::json& json) {
+    return json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace);
+}
 }  // namespace
 
 void Print(const Options& options, const nlohmann::json& json, const std::string& text) {
@@ -32,6 +34,8 @@ void Print(const Options& options, const nlohmann::json& json, const Rows& rows)
     }
 }
 
-std::string YesNo(bool value) { return value ? "yes" : "no"; }
+std::string YesNo(bool value) {
+    return value ? "yes" : "no";
+}
 
 }  // namespace PlurexTool

@@ -29,7 +29,9 @@ int DigitOf(int position, int unit) noexcept {
 
 // Positions are stored in 32 bits and repeated SetPage calls can drive them past the range: wrap
 // as the 32-bit arithmetic of existing devices does, without undefined behaviour.
-int Wrap(std::int64_t value) noexcept { return static_cast<int>(static_cast<std::uint32_t>(value)); }
+int Wrap(std::int64_t value) noexcept {
+    return static_cast<int>(static_cast<std::uint32_t>(value));
+}
 
 }  // namespace
 
@@ -54,22 +56,30 @@ const KepId& KepId::Empty() {
     return empty;
 }
 
-int KepId::GetPage() const noexcept { return DigitOf(position_, 100); }
+int KepId::GetPage() const noexcept {
+    return DigitOf(position_, 100);
+}
 
-int KepId::GetBank() const noexcept { return DigitOf(position_, 10); }
+int KepId::GetBank() const noexcept {
+    return DigitOf(position_, 10);
+}
 
-int KepId::GetClip() const noexcept { return DigitOf(position_, 1); }
+int KepId::GetClip() const noexcept {
+    return DigitOf(position_, 1);
+}
 
 void KepId::SetPage(int page) {
     CheckDigit("page", page);
     const std::int64_t position = position_ == NoPosition ? 0 : position_;
-    position_ = Wrap(position - (position / 100) % 10 + 100 * (page % 10));
+    const std::int64_t digit = page % 10;
+    position_ = Wrap(position - (position / 100) % 10 + 100 * digit);
 }
 
 void KepId::SetBank(int bank) {
     CheckDigit("bank", bank);
     const std::int64_t position = position_ == NoPosition ? 0 : position_;
-    position_ = Wrap(position - (position / 10) % 10 + 10 * (bank % 10));
+    const std::int64_t digit = bank % 10;
+    position_ = Wrap(position - (position / 10) % 10 + 10 * digit);
 }
 
 void KepId::SetClip(int clip) {
@@ -91,15 +101,17 @@ void KepId::SetPosition(int packed) {
 }
 
 void KepId::SetCamera(char camera) {
-    const bool valid = (camera >= 'A' && camera <= 'L') || camera == 'X' || camera == 'Y' || camera == 'Z' ||
-                       camera == '\0';
+    const bool valid =
+        (camera >= 'A' && camera <= 'L') || camera == 'X' || camera == 'Y' || camera == 'Z' || camera == '\0';
     if (!valid) {
         throw std::invalid_argument("Invalid cam: " + std::to_string(static_cast<signed char>(camera)));
     }
     camera_ = camera;
 }
 
-void KepId::SetServerId(const Servers::ServerId& server) { SetServerId(&server); }
+void KepId::SetServerId(const Servers::ServerId& server) {
+    SetServerId(&server);
+}
 
 void KepId::SetServerId(const Servers::ServerId* server) {
     if (server == nullptr) {
@@ -108,7 +120,9 @@ void KepId::SetServerId(const Servers::ServerId* server) {
     server_ = *server;
 }
 
-int KepId::CompareTo(const KepId& other) const noexcept { return CompareTo(&other); }
+int KepId::CompareTo(const KepId& other) const noexcept {
+    return CompareTo(&other);
+}
 
 int KepId::CompareTo(const KepId* other) const noexcept {
     if (other == nullptr) {
@@ -124,16 +138,22 @@ int KepId::CompareTo(const KepId* other) const noexcept {
     return static_cast<signed char>(camera_) - static_cast<signed char>(other->camera_);
 }
 
-bool KepId::Equals(const KepId& other) const noexcept { return Equals(&other); }
+bool KepId::Equals(const KepId& other) const noexcept {
+    return Equals(&other);
+}
 
 bool KepId::Equals(const KepId* other) const noexcept {
     return other != nullptr && server_ == other->server_ && position_ == other->position_ &&
            camera_ == other->camera_;
 }
 
-bool KepId::IsNullOrEmpty(const KepId& id) noexcept { return IsNullOrEmpty(&id); }
+bool KepId::IsNullOrEmpty(const KepId& id) noexcept {
+    return IsNullOrEmpty(&id);
+}
 
-bool KepId::IsNullOrEmpty(const KepId* id) noexcept { return id == nullptr || id->Equals(Empty()); }
+bool KepId::IsNullOrEmpty(const KepId* id) noexcept {
+    return id == nullptr || id->Equals(Empty());
+}
 
 std::string KepId::ToString() const {
     std::string text;

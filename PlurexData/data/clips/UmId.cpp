@@ -17,7 +17,9 @@ UmId::UmId(const std::string& text) : UmId(text.c_str(), false) {}
 
 UmId::UmId(const std::string& text, bool unicode) : UmId(text.c_str(), unicode) {}
 
-UmId::UmId(const char* text, bool unicode) : text_{}, unicode_(false) { SetUmId(text, unicode); }
+UmId::UmId(const char* text, bool unicode) : text_{}, unicode_(false) {
+    SetUmId(text, unicode);
+}
 
 const UmId& UmId::UmIdVirtual() {
     static const UmId id("@VIRTUA!");
@@ -44,7 +46,9 @@ const UmId& UmId::Empty() {
     return id;
 }
 
-void UmId::SetUmId(const char* text) { SetUmId(text, false); }
+void UmId::SetUmId(const char* text) {
+    SetUmId(text, false);
+}
 
 void UmId::SetUmId(const char* text, bool unicode) {
     if (text == nullptr) {
@@ -59,7 +63,9 @@ void UmId::SetUmId(const char* text, bool unicode) {
     unicode_ = unicode;
 }
 
-int UmId::CompareTo(const UmId& other) const noexcept { return CompareTo(&other); }
+int UmId::CompareTo(const UmId& other) const noexcept {
+    return CompareTo(&other);
+}
 
 int UmId::CompareTo(const UmId* other) const noexcept {
     if (other == nullptr) {
@@ -78,25 +84,37 @@ int UmId::CompareTo(const UmId* other) const noexcept {
     return 0;
 }
 
-bool UmId::Equals(const UmId& other) const noexcept { return Equals(&other); }
+bool UmId::Equals(const UmId& other) const noexcept {
+    return Equals(&other);
+}
 
 bool UmId::Equals(const UmId* other) const noexcept {
     return other != nullptr && CompareTo(other) == 0 && unicode_ == other->unicode_;
 }
 
-bool UmId::IsNullOrEmpty(const UmId& id) noexcept { return IsNullOrEmpty(&id); }
+bool UmId::IsNullOrEmpty(const UmId& id) noexcept {
+    return IsNullOrEmpty(&id);
+}
 
 bool UmId::IsNullOrEmpty(const UmId* id) noexcept {
     return id == nullptr || std::memcmp(id->text_, Spaces, Length) == 0;
 }
 
-bool UmId::IsVirtualClip(const UmId& id) noexcept { return std::memcmp(id.text_, "@VIRTUA!", Length) == 0; }
+bool UmId::IsVirtualClip(const UmId& id) noexcept {
+    return std::memcmp(id.text_, "@VIRTUA!", Length) == 0;
+}
 
-bool UmId::IsWhiteClip(const UmId& id) noexcept { return std::memcmp(id.text_, "@WHTCLP!", Length) == 0; }
+bool UmId::IsWhiteClip(const UmId& id) noexcept {
+    return std::memcmp(id.text_, "@WHTCLP!", Length) == 0;
+}
 
-bool UmId::IsBlackClip(const UmId& id) noexcept { return std::memcmp(id.text_, "@BLKCLP!", Length) == 0; }
+bool UmId::IsBlackClip(const UmId& id) noexcept {
+    return std::memcmp(id.text_, "@BLKCLP!", Length) == 0;
+}
 
-bool UmId::IsMacroClip(const UmId& id) noexcept { return std::memcmp(id.text_, "@PLS", 4) == 0; }
+bool UmId::IsMacroClip(const UmId& id) noexcept {
+    return std::memcmp(id.text_, "@PLS", 4) == 0;
+}
 
 bool UmId::IsPatternClip(const UmId& id) noexcept {
     return IsBlackClip(id) || IsWhiteClip(id) || IsVirtualClip(id);

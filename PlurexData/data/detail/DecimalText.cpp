@@ -13,7 +13,8 @@ struct Digits {
 
     explicit Digits(int value) noexcept : text{}, negative(value < 0) {
         // Through unsigned arithmetic, so the most negative int has its digits too.
-        std::uint32_t magnitude = negative ? 0u - static_cast<std::uint32_t>(value) : static_cast<std::uint32_t>(value);
+        std::uint32_t magnitude =
+            negative ? 0u - static_cast<std::uint32_t>(value) : static_cast<std::uint32_t>(value);
         do {
             text[sizeof text - 1 - count++] = static_cast<char>('0' + magnitude % 10);
             magnitude /= 10;

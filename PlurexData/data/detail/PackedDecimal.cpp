@@ -4,7 +4,8 @@
 
 namespace Korv::Plurex::Data::Detail {
 
-void WritePackedDecimal(unsigned char* bytes, unsigned int first, unsigned int count, std::uint32_t value) noexcept {
+void WritePackedDecimal(unsigned char* bytes, unsigned int first, unsigned int count,
+                        std::uint32_t value) noexcept {
     for (unsigned int i = first + count; i-- > first;) {
         bytes[i] = static_cast<unsigned char>(((value / 10) % 10) << 4 | value % 10);
         value /= 100;

@@ -9,7 +9,8 @@ namespace Korv::Plurex::Data::Detail {
 
 // Writes `value` as 2 * count decimal digits into bytes[first] .. bytes[first + count - 1], the
 // least significant pair in the last byte (tens in the high nibble). Higher digits are dropped.
-void WritePackedDecimal(unsigned char* bytes, unsigned int first, unsigned int count, std::uint32_t value) noexcept;
+void WritePackedDecimal(unsigned char* bytes, unsigned int first, unsigned int count,
+                        std::uint32_t value) noexcept;
 
 // Reads the hexadecimal digits of the nibbles [firstNibble, firstNibble + nibbleCount) (nibble 2k is
 // the high half of byte k) as a base-10 signed long conversion of 32 bits would read their text:

@@ -9,7 +9,9 @@ constexpr unsigned char MarkerType1 = 0x64;
 constexpr unsigned char MarkerType2 = 0x65;
 }  // namespace
 
-Guid::Guid() noexcept : Data::Guid(nullptr, 0) { InitializeTypeInArray(Type::None); }
+Guid::Guid() noexcept : Data::Guid(nullptr, 0) {
+    InitializeTypeInArray(Type::None);
+}
 
 Guid::Guid(Type type, unsigned int machineSerial) noexcept : Data::Guid(nullptr, 0) {
     if (InitializeTypeInArray(type) && machineSerial != NoMachineSerial) {

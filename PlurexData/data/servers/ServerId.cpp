@@ -33,16 +33,22 @@ const ServerId& ServerId::None() {
     return none;
 }
 
-int ServerId::CompareTo(const ServerId& other) const noexcept { return CompareTo(&other); }
+int ServerId::CompareTo(const ServerId& other) const noexcept {
+    return CompareTo(&other);
+}
 
 int ServerId::CompareTo(const ServerId* other) const noexcept {
     // Valid numbers lie in [-1, 2147483640], so the difference cannot overflow.
     return other == nullptr ? 1 : id_ - other->id_;
 }
 
-bool ServerId::Equals(const ServerId& other) const noexcept { return Equals(&other); }
+bool ServerId::Equals(const ServerId& other) const noexcept {
+    return Equals(&other);
+}
 
-bool ServerId::Equals(const ServerId* other) const noexcept { return other != nullptr && id_ == other->id_; }
+bool ServerId::Equals(const ServerId* other) const noexcept {
+    return other != nullptr && id_ == other->id_;
+}
 
 std::string ServerId::ToString() const {
     std::string text;

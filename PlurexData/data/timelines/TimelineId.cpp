@@ -27,7 +27,9 @@ void TimelineId::SetNumber(int number) {
     number_ = number;
 }
 
-void TimelineId::SetServerId(const Servers::ServerId& server) { SetServerId(&server); }
+void TimelineId::SetServerId(const Servers::ServerId& server) {
+    SetServerId(&server);
+}
 
 void TimelineId::SetServerId(const Servers::ServerId* server) {
     if (server == nullptr) {
@@ -36,7 +38,9 @@ void TimelineId::SetServerId(const Servers::ServerId* server) {
     server_ = *server;
 }
 
-int TimelineId::CompareTo(const TimelineId& other) const noexcept { return CompareTo(&other); }
+int TimelineId::CompareTo(const TimelineId& other) const noexcept {
+    return CompareTo(&other);
+}
 
 int TimelineId::CompareTo(const TimelineId* other) const noexcept {
     if (other == nullptr) {
@@ -45,15 +49,21 @@ int TimelineId::CompareTo(const TimelineId* other) const noexcept {
     return number_ - other->number_;
 }
 
-bool TimelineId::Equals(const TimelineId& other) const noexcept { return Equals(&other); }
+bool TimelineId::Equals(const TimelineId& other) const noexcept {
+    return Equals(&other);
+}
 
 bool TimelineId::Equals(const TimelineId* other) const noexcept {
     return other != nullptr && server_ == other->server_ && number_ == other->number_;
 }
 
-bool TimelineId::IsNullOrEmpty(const TimelineId& id) noexcept { return IsNullOrEmpty(&id); }
+bool TimelineId::IsNullOrEmpty(const TimelineId& id) noexcept {
+    return IsNullOrEmpty(&id);
+}
 
-bool TimelineId::IsNullOrEmpty(const TimelineId* id) noexcept { return id == nullptr || id->Equals(cEmpty); }
+bool TimelineId::IsNullOrEmpty(const TimelineId* id) noexcept {
+    return id == nullptr || id->Equals(cEmpty);
+}
 
 std::string TimelineId::ToString() const {
     std::string text;

@@ -47,8 +47,8 @@ TEST(KepId, DigitSettersKeepTheirDifferentArithmetic) {
         int value;
         int expected;
     };
-    for (const Case& c : {Case{&KepId::SetBank, 5, 171}, Case{&KepId::SetPage, 4, 522}, Case{&KepId::SetClip, 9, 129},
-                          Case{&KepId::SetClip, 10, 120}}) {
+    for (const Case& c : {Case{&KepId::SetBank, 5, 171}, Case{&KepId::SetPage, 4, 522},
+                          Case{&KepId::SetClip, 9, 129}, Case{&KepId::SetClip, 10, 120}}) {
         KepId id(1, 2, 3, 'A', s10);
         (id.*c.setter)(c.value);
         EXPECT_EQ(id.GetPosition(), c.expected);
@@ -80,7 +80,8 @@ TEST(KepId, RejectionsNameTheValue) {
     EXPECT_EQ(InvalidArgument([&] { id.SetCamera('W'); }), "Invalid cam: 87");
     EXPECT_EQ(InvalidArgument([&] { id.SetCamera('M'); }), "Invalid cam: 77");
     EXPECT_EQ(InvalidArgument([&] { id.SetCamera(static_cast<char>(0xE9)); }), "Invalid cam: -23");
-    EXPECT_EQ(InvalidArgument([&] { id.SetServerId(static_cast<const ServerId*>(nullptr)); }), "null ServerId");
+    EXPECT_EQ(InvalidArgument([&] { id.SetServerId(static_cast<const ServerId*>(nullptr)); }),
+              "null ServerId");
     EXPECT_EQ(InvalidArgument([] { KepId(1, 1, 1, 'a', s10); }), "Invalid cam: 97");
     EXPECT_EQ(id.GetPosition(), 123);
     EXPECT_EQ(id.GetCamera(), 'B');

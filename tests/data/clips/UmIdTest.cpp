@@ -16,9 +16,9 @@ TEST(UmId, StoresEightCharactersPaddedWithNuls) {
     EXPECT_FALSE(UmId::IsNullOrEmpty(ab));
     EXPECT_TRUE(UmId("x", true).IsUnicode());
     EXPECT_FALSE(UmId("x").IsUnicode());
-    for (auto make : {+[] { UmId{static_cast<const char*>(nullptr)}; },
-                      +[] { UmId(static_cast<const char*>(nullptr), true); },
-                      +[] { UmId().SetUmId(nullptr); }}) {
+    for (auto make :
+         {+[] { UmId{static_cast<const char*>(nullptr)}; },
+          +[] { UmId(static_cast<const char*>(nullptr), true); }, +[] { UmId().SetUmId(nullptr); }}) {
         try {
             make();
             ADD_FAILURE();
