@@ -18,21 +18,6 @@ using Korv::Plurex::Data::Clips::UmId;
 using Korv::Plurex::Data::Servers::ServerId;
 namespace Servers = Korv::Plurex::Data::Servers;
 
-std::string Lower(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
-
-// The library reads a malformed text as the empty Guid; the tool tells the two apart by the text.
-Guid ParseGuid(const std::string& text) {
-    const Guid guid = Guid::FromString(text);
-    if (guid == Guid::Empty() && Lower(text) != Guid::Empty().ToString()) {
-        throw Failure("not a GUID: " + text);
-    }
-    return guid;
-}
-
 void AddGuid(CLI::App& root, const Options& options) {
     auto* guid = root.add_subcommand("guid", "Make and parse GUIDs");
     guid->require_subcommand(1);
@@ -154,6 +139,22 @@ void AddUmId(CLI::App& root, const Options& options) {
 }
 
 }  // namespace
+
+namespace {
+std::string Lower(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return text;
+}
+}  // namespace
+
+Korv::Plurex::Data::Guid ParseGuid(const std::string& text) {
+    const Guid guid = Guid::FromString(text);
+    if (guid == Guid::Empty() && Lower(text) != Guid::Empty().ToString()) {
+        throw Failure("not a GUID: " + text);
+    }
+    return guid;
+}
 
 void AddIdentifierCommands(CLI::App& root, const Options& options) {
     AddGuid(root, options);

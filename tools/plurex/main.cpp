@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     app.fallthrough();
 
     PlurexTool::AddIdentifierCommands(app, options);
+    PlurexTool::AddChannelCommands(app, options);
 
     try {
         app.parse(argc, argv);
