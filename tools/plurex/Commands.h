@@ -14,6 +14,8 @@ struct Options;
 // subcommand; it throws the library's exception or a Failure, which main() reports with status 1.
 void AddIdentifierCommands(CLI::App& root, const Options& options);
 void AddChannelCommands(CLI::App& root, const Options& options);
+void AddTimecodeCommands(CLI::App& root, const Options& options);
+void AddEnumCommands(CLI::App& root, const Options& options);
 
 // The GUID a text names. The library reads malformed text as the empty GUID; the tool tells the two
 // apart by the text and fails with "not a GUID: TEXT".

@@ -16,6 +16,8 @@ int main(int argc, char** argv) {
 
     PlurexTool::AddIdentifierCommands(app, options);
     PlurexTool::AddChannelCommands(app, options);
+    PlurexTool::AddTimecodeCommands(app, options);
+    PlurexTool::AddEnumCommands(app, options);
 
     try {
         app.parse(argc, argv);

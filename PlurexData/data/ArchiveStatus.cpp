@@ -1,0 +1,26 @@
+#include "PlurexData/data/ArchiveStatus.h"
+
+#include "PlurexData/data/StringAssociation.h"
+
+namespace Korv::Plurex::Data::Clips {
+
+namespace {
+const StringAssociation<ArchiveStatus> converter(
+    {
+        {ArchiveStatus::NoStore, "NoStore"},
+        {ArchiveStatus::ToStore, "ToStore"},
+        {ArchiveStatus::Stored, "Stored"},
+        {ArchiveStatus::Unknown, "Unknown"},
+    },
+    ArchiveStatus::Unknown);
+}  // namespace
+
+const std::string& ToString(ArchiveStatus value) noexcept {
+    return converter.ToString(value);
+}
+
+ArchiveStatus ToArchiveStatus(const std::string& text) noexcept {
+    return converter.ToType(text);
+}
+
+}  // namespace Korv::Plurex::Data::Clips

@@ -1,0 +1,25 @@
+#include "PlurexData/data/VideoStandard.h"
+
+#include "PlurexData/data/StringAssociation.h"
+
+namespace Korv::Plurex::Data::Clips {
+
+namespace {
+const StringAssociation<VideoStandard> converter(
+    {
+        {VideoStandard::Pal, "Pal"},
+        {VideoStandard::Ntsc, "Ntsc"},
+        {VideoStandard::Unknown, "Unknown"},
+    },
+    VideoStandard::Unknown);
+}  // namespace
+
+const std::string& ToString(VideoStandard value) noexcept {
+    return converter.ToString(value);
+}
+
+VideoStandard ToVideoStandard(const std::string& text) noexcept {
+    return converter.ToType(text);
+}
+
+}  // namespace Korv::Plurex::Data::Clips

@@ -1,0 +1,188 @@
+// plurex enum list | name | value: the names of the clip and essence enumerations, both ways.
+#include "Commands.h"
+#include "Output.h"
+
+#include "PlurexData/PlurexData.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace PlurexTool {
+
+namespace {
+
+namespace Clips = Korv::Plurex::Data::Clips;
+namespace Essences = Korv::Plurex::Data::Clips::Essences;
+
+// One enumeration as the tool offers it: its named values, and the library's two conversions.
+struct Enumeration {
+    std::string name;
+    std::vector<std::int32_t> values;
+    std::string (*toString)(std::int32_t);
+    std::int32_t (*toValue)(const std::string&);
+
+    // Whatever no name reads as.
+    std::int32_t Default() const { return toValue(std::string()); }
+};
+
+template <class E, E (*To)(const std::string&) noexcept>
+Enumeration Of(std::string name, std::vector<std::int32_t> values) {
+    return {std::move(name), std::move(values),
+            [](std::int32_t value) { return std::string(ToString(static_cast<E>(value))); },
+            [](const std::string& text) { return static_cast<std::int32_t>(To(text)); }};
+}
+
+std::vector<std::int32_t> Range(std::int32_t first, std::int32_t last) {
+    std::vector<std::int32_t> values;
+    for (std::int32_t value = first; value <= last; ++value) {
+        values.push_back(value);
+    }
+    return values;
+}
+
+// The essence enumerations carry their namespace, which keeps the two ArchiveStatus tables apart.
+const std::vector<Enumeration>& Enumerations() {
+    static const std::vector<Enumeration> all = {
+        Of<Clips::AfdAspectRatio, Clips::ToAfdAspectRatio>("AfdAspectRatio", Range(0, 3)),
+        Of<Clips::AlphaArchiveStatus, Clips::ToAlphaArchiveStatus>("AlphaArchiveStatus", Range(0, 3)),
+        Of<Clips::ArchiveStatus, Clips::ToArchiveStatus>("ArchiveStatus", Range(0, 3)),
+        Of<Clips::AudioConfiguration, Clips::ToAudioConfiguration>("AudioConfiguration", Range(0, 8)),
+        Of<Clips::Camera, Clips::ToCamera>("Camera", Range(1, 16)),
+        Of<Clips::CodedFrameAspectRatio, Clips::ToCodedFrameAspectRatio>("CodedFrameAspectRatio",
+                                                                         Range(0, 2)),
+        Of<Clips::FillAndKeyStatus, Clips::ToFillAndKeyStatus>("FillAndKeyStatus", Range(0, 3)),
+        Of<Clips::HdrProfile, Clips::ToHdrProfile>("HdrProfile", Range(0, 5)),
+        Of<Clips::PreferentialCamera, Clips::ToPreferentialCamera>("PreferentialCamera", Range(0, 3)),
+        Of<Clips::PrimaryTimecode, Clips::ToPrimaryTimecode>("PrimaryTimecode", Range(0, 3)),
+        Of<Clips::Rating, Clips::ToRating>("Rating", Range(0, 4)),
+        Of<Clips::SourceEngine, Clips::ToSourceEngine>("SourceEngine", Range(0, 4)),
+        Of<Clips::TimecodeType, Clips::ToTimecodeType>("TimecodeType", Range(0, 3)),
+        Of<Clips::TrainStatus, Clips::ToTrainStatus>("TrainStatus", Range(0, 3)),
+        Of<Clips::UhdDivisionMode, Clips::ToUhdDivisionMode>("UhdDivisionMode", Range(0, 3)),
+        Of<Clips::UserProtect, Clips::ToUserProtect>("UserProtect",
+                                                     {0, 1, 2, 4, 8, 16, 32, 64, 128, 256, 65535, 65536}),
+        Of<Clips::VideoFormat, Clips::ToVideoFormat>("VideoFormat", Range(0, 5)),
+        Of<Clips::VideoStandard, Clips::ToVideoStandard>("VideoStandard", Range(0, 2)),
+        Of<Clips::WideColorGamut, Clips::ToWideColorGamut>("WideColorGamut", Range(0, 2)),
+        Of<Essences::Type, Essences::ToType>("Essences::Type", Range(0, 3)),
+        Of<Essences::VideoCompressionType, Essences::ToVideoCompressionType>("Essences::VideoCompressionType",
+                                                                             Range(0, 21)),
+        Of<Essences::VideoCompressionInfo, Essences::ToVideoCompressionInfo>("Essences::VideoCompressionInfo",
+                                                                             Range(0, 11)),
+        Of<Essences::AudioCompressionType, Essences::ToAudioCompressionType>("Essences::AudioCompressionType",
+                                                                             Range(0, 3)),
+        Of<Essences::BlockSize, Essences::ToBlockSize>("Essences::BlockSize", Range(0, 3)),
+        Of<Essences::Metadata, Essences::ToMetadata>("Essences::Metadata", Range(0, 5)),
+        Of<Essences::RecordingStatus, Essences::ToRecordingStatus>("Essences::RecordingStatus", Range(0, 5)),
+        Of<Essences::ArchiveStatus, Essences::ToArchiveStatus>("Essences::ArchiveStatus", Range(0, 2)),
+    };
+    return all;
+}
+
+std::vector<std::string> EnumerationNames() {
+    std::vector<std::string> names;
+    for (const Enumeration& enumeration : Enumerations()) {
+        names.push_back(enumeration.name);
+    }
+    return names;
+}
+
+const Enumeration& Find(const std::string& name) {
+    for (const Enumeration& enumeration : Enumerations()) {
+        if (enumeration.name == name) {
+            return enumeration;
+        }
+    }
+    throw Failure("unknown enumeration: " + name);
+}
+
+nlohmann::json TableJson(const Enumeration& enumeration) {
+    nlohmann::json values = nlohmann::json::array();
+    for (std::int32_t value : enumeration.values) {
+        values.push_back({{"value", value}, {"name", enumeration.toString(value)}});
+    }
+    return {{"enum", enumeration.name}, {"default", enumeration.Default()}, {"values", values}};
+}
+
+CLI::Option* AddEnumerationArgument(CLI::App& verb, std::string& name) {
+    return verb.add_option("ENUM", name, "Enumeration: a clip one (Camera) or Essences::<name>")
+        ->check(CLI::IsMember(EnumerationNames()));
+}
+
+void AddList(CLI::App& enumCommand, const Options& options) {
+    auto* list = enumCommand.add_subcommand("list", "List the enumerations, or the values and names of one");
+    auto name = std::make_shared<std::string>();
+    AddEnumerationArgument(*list, *name);
+    list->callback([&options, name] {
+        if (name->empty()) {
+            nlohmann::json json = nlohmann::json::array();
+            Rows rows;
+            for (const Enumeration& enumeration : Enumerations()) {
+                json.push_back(TableJson(enumeration));
+                rows.emplace_back(enumeration.name, std::to_string(enumeration.values.size()) +
+                                                        " names, default " +
+                                                        std::to_string(enumeration.Default()));
+            }
+            Print(options, json, rows);
+            return;
+        }
+        const Enumeration& enumeration = Find(*name);
+        Rows rows;
+        for (std::int32_t value : enumeration.values) {
+            rows.emplace_back(
+                std::to_string(value),
+                enumeration.toString(value) + (value == enumeration.Default() ? " (default)" : ""));
+        }
+        Print(options, TableJson(enumeration), rows);
+    });
+}
+
+void AddName(CLI::App& enumCommand, const Options& options) {
+    auto* nameVerb =
+        enumCommand.add_subcommand("name", "Print the name of a value (unknown values print as the default)");
+    struct Values {
+        std::string enumeration;
+        std::int32_t value = 0;
+    };
+    auto values = std::make_shared<Values>();
+    AddEnumerationArgument(*nameVerb, values->enumeration)->required();
+    nameVerb->add_option("VALUE", values->value, "The number")->required();
+    nameVerb->callback([&options, values] {
+        const Enumeration& enumeration = Find(values->enumeration);
+        const std::string name = enumeration.toString(values->value);
+        Print(options, nlohmann::json{{"enum", enumeration.name}, {"value", values->value}, {"name", name}},
+              name);
+    });
+}
+
+void AddValue(CLI::App& enumCommand, const Options& options) {
+    auto* valueVerb = enumCommand.add_subcommand(
+        "value", "Print the value of a name (exact and case-sensitive; others read as the default)");
+    struct Values {
+        std::string enumeration, name;
+    };
+    auto values = std::make_shared<Values>();
+    AddEnumerationArgument(*valueVerb, values->enumeration)->required();
+    valueVerb->add_option("NAME", values->name, "The name")->required();
+    valueVerb->callback([&options, values] {
+        const Enumeration& enumeration = Find(values->enumeration);
+        const std::int32_t value = enumeration.toValue(values->name);
+        Print(options, nlohmann::json{{"enum", enumeration.name}, {"name", values->name}, {"value", value}},
+              std::to_string(value));
+    });
+}
+
+}  // namespace
+
+void AddEnumCommands(CLI::App& root, const Options& options) {
+    auto* enumCommand =
+        root.add_subcommand("enum", "Convert the clip and essence enumerations between values and names");
+    enumCommand->require_subcommand(1);
+    AddList(*enumCommand, options);
+    AddName(*enumCommand, options);
+    AddValue(*enumCommand, options);
+}
+
+}  // namespace PlurexTool
