@@ -4,6 +4,8 @@
 
 #include "PlurexData/Export.h"
 
+#include "PlurexData/channels/AbsoluteBoundary.h"
+#include "PlurexData/channels/Boundary.h"
 #include "PlurexData/channels/ChannelState.h"
 #include "PlurexData/channels/Guid.h"
 #include "PlurexData/cuepoints/CuePoint.h"

@@ -1,0 +1,8 @@
+#include "PlurexData/channels/Boundary.h"
+
+namespace Korv::Plurex::Data::Channels {
+
+// Defined here so that the class's type information and virtual table live in the library.
+Boundary::~Boundary() = default;
+
+}  // namespace Korv::Plurex::Data::Channels
