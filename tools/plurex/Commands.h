@@ -14,6 +14,7 @@ struct Options;
 // subcommand; it throws the library's exception or a Failure, which main() reports with status 1.
 void AddIdentifierCommands(CLI::App& root, const Options& options);
 void AddChannelCommands(CLI::App& root, const Options& options);
+void AddClipCommands(CLI::App& root, const Options& options);
 void AddTimecodeCommands(CLI::App& root, const Options& options);
 void AddEnumCommands(CLI::App& root, const Options& options);
 

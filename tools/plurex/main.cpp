@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
 
     PlurexTool::AddIdentifierCommands(app, options);
     PlurexTool::AddChannelCommands(app, options);
+    PlurexTool::AddClipCommands(app, options);
     PlurexTool::AddTimecodeCommands(app, options);
     PlurexTool::AddEnumCommands(app, options);
 

@@ -1,0 +1,43 @@
+# cmake -DTOOL=... -DEXAMPLES=... -DWORK=... -P ClipRoundTrip.cmake
+# The example records are what encode makes of examples/clip.json; decode --json and encode give each
+# back byte for byte, also when the record sits at an offset inside a larger file.
+function(run)
+    execute_process(COMMAND ${TOOL} ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "plurex ${ARGN}: status ${status}\n${err}")
+    endif()
+    set(out "${out}" PARENT_SCOPE)
+endfunction()
+
+function(same_bytes left right)
+    file(READ ${left} a HEX)
+    file(READ ${right} b HEX)
+    if(NOT a STREQUAL b)
+        message(FATAL_ERROR "${left} and ${right} differ:\n${a}\n${b}")
+    endif()
+endfunction()
+
+file(MAKE_DIRECTORY ${WORK})
+foreach(order le be)
+    set(flag)
+    if(order STREQUAL "be")
+        set(flag --big-endian)
+    endif()
+    run(clip encode ${EXAMPLES}/clip.json -o ${WORK}/made-${order}.bin ${flag})
+    same_bytes(${WORK}/made-${order}.bin ${EXAMPLES}/clip-${order}.bin)
+
+    run(--json clip decode ${EXAMPLES}/clip-${order}.bin ${flag})
+    file(WRITE ${WORK}/decoded-${order}.json "${out}")
+    run(clip encode ${WORK}/decoded-${order}.json -o ${WORK}/again-${order}.bin ${flag})
+    same_bytes(${WORK}/again-${order}.bin ${EXAMPLES}/clip-${order}.bin)
+
+    # The record after seven bytes of something else.
+    file(READ ${EXAMPLES}/clip-${order}.bin record HEX)
+    string(REGEX REPLACE "(..)" "\\\\x\\1" escaped "00112233445566${record}")
+    execute_process(COMMAND printf "${escaped}" OUTPUT_FILE ${WORK}/padded-${order}.bin)
+    run(--json clip decode ${WORK}/padded-${order}.bin --offset 7 ${flag})
+    file(READ ${WORK}/decoded-${order}.json expected)
+    if(NOT out STREQUAL expected)
+        message(FATAL_ERROR "decode --offset 7 differs:\n${out}")
+    endif()
+endforeach()
