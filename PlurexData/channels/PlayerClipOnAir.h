@@ -1,0 +1,25 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/channels/TimeValue.h"
+#include "PlurexData/data/clips/Clip.h"
+#include "PlurexData/timepoints/TimeCode.h"
+
+#include <cstdint>
+
+namespace Korv::Plurex::Data::Channels {
+
+// A clip that a player has on air. The clip means something only while `clipPresent` is set.
+struct PLUREXDATA_API PlayerClipOnAir {
+    Clips::Clip clip;
+    bool clipPresent = false;
+    std::int64_t timeValue = UnsetTime;
+    TimePoints::TimeCode firstTimecode = Clips::Clip::DefaultTimecode();
+    TimePoints::TimeCode secondTimecode = Clips::Clip::DefaultTimecode();
+
+    // Every field equal, the clips by the clip record's equality.
+    bool operator==(const PlayerClipOnAir& other) const noexcept;
+    bool operator!=(const PlayerClipOnAir& other) const noexcept { return !(*this == other); }
+};
+
+}  // namespace Korv::Plurex::Data::Channels
