@@ -1,0 +1,24 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/notification/ChannelStatusEventArgs.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace Korv::Plurex::Notification {
+
+// One queued channel status event: its shared arguments and its type.
+struct PLUREXDATA_API ChannelStatusEvent {
+    // Selects the specific callback list and so the class the producer guarantees for the arguments.
+    // Any other 32-bit value is carried too and reaches only the generic callbacks.
+    enum class Type : std::int32_t {
+        RecorderStateChanged = 0,  // RecorderStateChangedEventArgs
+        PlayerStateChanged = 1,    // PlayerStateChangedEventArgs
+    };
+
+    std::shared_ptr<ChannelStatusEventArgs> args;
+    Type type{};
+};
+
+}  // namespace Korv::Plurex::Notification

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/data/OperationResult.h"
+#include "PlurexData/notification/ClipDeletionEventArgs.h"
+
+#include <cstdint>
+
+namespace Korv::Plurex::Notification {
+
+// A clip deletion that failed: the server's result and error code, a third 8-bit value and two flags.
+class PLUREXDATA_API ClipDeletionFailedEventArgs : public ClipDeletionEventArgs {
+public:
+    ClipDeletionFailedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
+                                std::uint32_t thirdValue, std::uint16_t fourthValue,
+                                const Data::Guid& commandGuid, long long value64,
+                                Data::OperationResult result, std::int16_t errorCode,
+                                const Data::Clips::Clip& clip, std::uint8_t firstByte,
+                                std::uint8_t secondByte, std::uint8_t thirdByte, bool firstFlag,
+                                bool secondFlag);
+    ~ClipDeletionFailedEventArgs() override;
+
+    Data::OperationResult GetResult() const noexcept { return result_; }
+    std::int16_t GetErrorCode() const noexcept { return errorCode_; }
+    std::uint8_t GetThirdByte() const noexcept { return thirdByte_; }
+    bool GetFirstFlag() const noexcept { return firstFlag_; }
+    bool GetSecondFlag() const noexcept { return secondFlag_; }
+
+private:
+    Data::OperationResult result_;
+    std::int16_t errorCode_;
+    std::uint8_t thirdByte_;
+    bool firstFlag_;
+    bool secondFlag_;
+};
+
+}  // namespace Korv::Plurex::Notification

@@ -1,0 +1,18 @@
+#include "PlurexData/notification/ClipMoveFailedEventArgs.h"
+
+namespace Korv::Plurex::Notification {
+
+ClipMoveFailedEventArgs::ClipMoveFailedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
+                                                 std::uint32_t thirdValue, std::uint16_t fourthValue,
+                                                 const Data::Guid& commandGuid, long long value64,
+                                                 Data::OperationResult result, std::int16_t errorCode,
+                                                 const Data::Clips::Clip& firstClip,
+                                                 const Data::Clips::Clip& secondClip)
+    : ClipMoveEventArgs(commandNumber, requestSource, thirdValue, fourthValue, commandGuid, value64,
+                        firstClip, secondClip),
+      result_(result),
+      errorCode_(errorCode) {}
+
+ClipMoveFailedEventArgs::~ClipMoveFailedEventArgs() = default;
+
+}  // namespace Korv::Plurex::Notification

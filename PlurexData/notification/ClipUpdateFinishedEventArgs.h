@@ -1,0 +1,25 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/notification/ClipUpdateEventArgs.h"
+
+#include <cstdint>
+
+namespace Korv::Plurex::Notification {
+
+// A clip update that completed, with one flag.
+class PLUREXDATA_API ClipUpdateFinishedEventArgs : public ClipUpdateEventArgs {
+public:
+    ClipUpdateFinishedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
+                                std::uint32_t thirdValue, std::uint16_t fourthValue,
+                                const Data::Guid& commandGuid, long long value64, bool flag,
+                                const Data::Clips::Clip& firstClip, const Data::Clips::Clip& secondClip);
+    ~ClipUpdateFinishedEventArgs() override;
+
+    bool GetFlag() const noexcept { return flag_; }
+
+private:
+    bool flag_;
+};
+
+}  // namespace Korv::Plurex::Notification

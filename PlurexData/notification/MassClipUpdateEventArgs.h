@@ -1,0 +1,24 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/notification/ClipCommandEventArgs.h"
+
+#include <cstdint>
+
+namespace Korv::Plurex::Notification {
+
+// An update of many clips at once, with their count.
+class PLUREXDATA_API MassClipUpdateEventArgs : public ClipCommandEventArgs {
+public:
+    MassClipUpdateEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
+                            std::uint32_t thirdValue, std::uint16_t fourthValue,
+                            const Data::Guid& commandGuid, long long value64, std::uint32_t count);
+    ~MassClipUpdateEventArgs() override;
+
+    std::uint32_t GetCount() const noexcept { return count_; }
+
+private:
+    std::uint32_t count_;
+};
+
+}  // namespace Korv::Plurex::Notification

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/data/OperationResult.h"
+#include "PlurexData/notification/MassClipUpdateEventArgs.h"
+
+#include <cstdint>
+
+namespace Korv::Plurex::Notification {
+
+// A mass update that failed, with the server's result and error code.
+class PLUREXDATA_API MassClipUpdateFailedEventArgs : public MassClipUpdateEventArgs {
+public:
+    MassClipUpdateFailedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
+                                  std::uint32_t thirdValue, std::uint16_t fourthValue,
+                                  const Data::Guid& commandGuid, long long value64,
+                                  Data::OperationResult result, std::int16_t errorCode, std::uint32_t count);
+    ~MassClipUpdateFailedEventArgs() override;
+
+    Data::OperationResult GetResult() const noexcept { return result_; }
+    std::int16_t GetErrorCode() const noexcept { return errorCode_; }
+
+private:
+    Data::OperationResult result_;
+    std::int16_t errorCode_;
+};
+
+}  // namespace Korv::Plurex::Notification

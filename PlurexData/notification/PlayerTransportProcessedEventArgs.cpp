@@ -1,0 +1,7 @@
+#include "PlurexData/notification/PlayerTransportProcessedEventArgs.h"
+
+namespace Korv::Plurex::Notification {
+
+PlayerTransportProcessedEventArgs::~PlayerTransportProcessedEventArgs() = default;
+
+}  // namespace Korv::Plurex::Notification

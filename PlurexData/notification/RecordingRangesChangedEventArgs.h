@@ -1,0 +1,17 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/notification/ClipStatusEventArgs.h"
+
+namespace Korv::Plurex::Notification {
+
+// The recording ranges of a clip changed. No data of its own.
+class PLUREXDATA_API RecordingRangesChangedEventArgs : public ClipStatusEventArgs {
+public:
+    RecordingRangesChangedEventArgs() noexcept = default;
+    RecordingRangesChangedEventArgs(const RecordingRangesChangedEventArgs&) noexcept = default;
+    RecordingRangesChangedEventArgs& operator=(const RecordingRangesChangedEventArgs&) noexcept = default;
+    ~RecordingRangesChangedEventArgs() override;
+};
+
+}  // namespace Korv::Plurex::Notification

@@ -1,0 +1,7 @@
+#include "PlurexData/notification/ServerRemovedEventArgs.h"
+
+namespace Korv::Plurex::Notification {
+
+ServerRemovedEventArgs::~ServerRemovedEventArgs() = default;
+
+}  // namespace Korv::Plurex::Notification

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "PlurexData/Export.h"
+#include "PlurexData/notification/ServerStatusEventArgs.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace Korv::Plurex::Notification {
+
+// One queued server event: its shared arguments and its type.
+struct PLUREXDATA_API ServerStatusEvent {
+    // Selects the specific callback list and so the class the producer guarantees for the arguments.
+    // Any other 32-bit value is carried too and reaches only the generic callbacks.
+    enum class Type : std::int32_t {
+        ServerAdded = 0,              // ServerAddedEventArgs
+        ServerRemoved = 1,            // ServerRemovedEventArgs
+        DisconnectedFromNetwork = 2,  // DisconnectedFromNetworkEventArgs
+    };
+
+    std::shared_ptr<ServerStatusEventArgs> args;
+    Type type{};
+};
+
+}  // namespace Korv::Plurex::Notification

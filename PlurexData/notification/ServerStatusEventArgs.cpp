@@ -1,0 +1,7 @@
+#include "PlurexData/notification/ServerStatusEventArgs.h"
+
+namespace Korv::Plurex::Notification {
+
+ServerStatusEventArgs::~ServerStatusEventArgs() = default;
+
+}  // namespace Korv::Plurex::Notification
