@@ -17,6 +17,7 @@ void AddChannelCommands(CLI::App& root, const Options& options);
 void AddClipCommands(CLI::App& root, const Options& options);
 void AddTimecodeCommands(CLI::App& root, const Options& options);
 void AddEnumCommands(CLI::App& root, const Options& options);
+void AddTextCommands(CLI::App& root, const Options& options);
 
 // The GUID a text names. The library reads malformed text as the empty GUID; the tool tells the two
 // apart by the text and fails with "not a GUID: TEXT".

@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     PlurexTool::AddClipCommands(app, options);
     PlurexTool::AddTimecodeCommands(app, options);
     PlurexTool::AddEnumCommands(app, options);
+    PlurexTool::AddTextCommands(app, options);
 
     try {
         app.parse(argc, argv);

@@ -1,0 +1,93 @@
+#include "PlurexData/unicode/Charset.h"
+
+#include <stdexcept>
+
+namespace Korv::Plurex::Unicode {
+
+namespace {
+
+struct Names {
+    Charset charset;
+    const char* name;
+    std::vector<std::string> aliases;
+};
+
+const std::vector<Names>& Table() {
+    static const std::vector<Names> table{
+        {Charset::Ascii,
+         "ascii",
+         {"us-ascii", "ansi_x3.4-1968", "iso646-us", "us", "cp367", "ibm367", "cp20127"}},
+        {Charset::CodePage437, "cp437", {"ibm437", "437", "cspc8codepage437"}},
+        {Charset::CodePage28591, "iso-8859-1", {"latin1", "l1", "iso-ir-100", "cp819", "ibm819", "cp28591"}},
+        {Charset::CodePage28592, "iso-8859-2", {"latin2", "l2", "iso-ir-101", "cp28592"}},
+        {Charset::Utf8, "utf-8", {"cp65001"}},
+        {Charset::Utf16LE, "utf-16le", {}},
+        {Charset::Utf16BE, "utf-16be", {}},
+        {Charset::Utf32LE, "utf-32le", {}},
+        {Charset::Utf32BE, "utf-32be", {}},
+    };
+    return table;
+}
+
+// Lower case without the separators people spell differently ("ISO_8859-1", "iso88591", "UTF8").
+std::string Folded(std::string_view name) {
+    std::string folded;
+    for (const char c : name) {
+        if (c == '-' || c == '_' || c == ' ') {
+            continue;
+        }
+        folded += (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+    }
+    return folded;
+}
+
+const Names* Find(Charset charset) {
+    for (const Names& names : Table()) {
+        if (names.charset == charset) {
+            return &names;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+Charset ToCharset(std::string_view name) {
+    const std::string folded = Folded(name);
+    if (!folded.empty()) {
+        for (const Names& names : Table()) {
+            if (folded == Folded(names.name)) {
+                return names.charset;
+            }
+            for (const std::string& alias : names.aliases) {
+                if (folded == Folded(alias)) {
+                    return names.charset;
+                }
+            }
+        }
+    }
+    throw std::invalid_argument("Unknown charset: " + std::string(name));
+}
+
+std::string ToString(Charset charset) {
+    const Names* names = Find(charset);
+    return names == nullptr ? "unknown" : names->name;
+}
+
+const std::vector<Charset>& GetCharsets() {
+    static const std::vector<Charset> charsets = [] {
+        std::vector<Charset> all;
+        for (const Names& names : Table()) {
+            all.push_back(names.charset);
+        }
+        return all;
+    }();
+    return charsets;
+}
+
+std::vector<std::string> GetAliases(Charset charset) {
+    const Names* names = Find(charset);
+    return names == nullptr ? std::vector<std::string>{} : names->aliases;
+}
+
+}  // namespace Korv::Plurex::Unicode

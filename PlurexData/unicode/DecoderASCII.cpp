@@ -1,0 +1,7 @@
+#include "PlurexData/unicode/DecoderASCII.h"
+
+namespace Korv::Plurex::Unicode {
+
+DecoderASCII::~DecoderASCII() = default;
+
+}  // namespace Korv::Plurex::Unicode

@@ -1,0 +1,214 @@
+#include "PlurexData/unicode/Charset.h"
+#include "PlurexData/unicode/DecoderASCII.h"
+#include "PlurexData/unicode/DecoderCodePage28591.h"
+#include "PlurexData/unicode/DecoderCodePage28592.h"
+#include "PlurexData/unicode/DecoderCodePage437.h"
+#include "PlurexData/unicode/DecoderUTF16.h"
+#include "PlurexData/unicode/DecoderUTF32.h"
+#include "PlurexData/unicode/DecoderUTF8.h"
+#include "PlurexData/unicode/EncoderASCII.h"
+#include "PlurexData/unicode/EncoderCodePage28591.h"
+#include "PlurexData/unicode/EncoderCodePage28592.h"
+#include "PlurexData/unicode/EncoderCodePage437.h"
+#include "PlurexData/unicode/EncoderUTF16.h"
+#include "PlurexData/unicode/EncoderUTF32.h"
+#include "PlurexData/unicode/EncoderUTF8.h"
+#include "PlurexData/unicode/Transcode.h"
+
+#include <gtest/gtest.h>
+
+#include <iterator>
+#include <memory>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace {
+
+using namespace Korv::Plurex::Unicode;
+
+std::unique_ptr<Decoder> MakeDecoder(Charset charset) {
+    switch (charset) {
+        case Charset::Ascii:
+            return std::make_unique<DecoderASCII>();
+        case Charset::CodePage437:
+            return std::make_unique<DecoderCodePage437>();
+        case Charset::CodePage28591:
+            return std::make_unique<DecoderCodePage28591>();
+        case Charset::CodePage28592:
+            return std::make_unique<DecoderCodePage28592>();
+        case Charset::Utf8:
+            return std::make_unique<DecoderUTF8>();
+        case Charset::Utf16LE:
+            return std::make_unique<DecoderUTF16>(false);
+        case Charset::Utf16BE:
+            return std::make_unique<DecoderUTF16>(true);
+        case Charset::Utf32LE:
+            return std::make_unique<DecoderUTF32>(false);
+        case Charset::Utf32BE:
+            return std::make_unique<DecoderUTF32>(true);
+    }
+    throw std::logic_error("charset");
+}
+
+std::unique_ptr<Encoder> MakeEncoder(Charset charset) {
+    switch (charset) {
+        case Charset::Ascii:
+            return std::make_unique<EncoderASCII>();
+        case Charset::CodePage437:
+            return std::make_unique<EncoderCodePage437>();
+        case Charset::CodePage28591:
+            return std::make_unique<EncoderCodePage28591>();
+        case Charset::CodePage28592:
+            return std::make_unique<EncoderCodePage28592>();
+        case Charset::Utf8:
+            return std::make_unique<EncoderUTF8>();
+        case Charset::Utf16LE:
+            return std::make_unique<EncoderUTF16>(false);
+        case Charset::Utf16BE:
+            return std::make_unique<EncoderUTF16>(true);
+        case Charset::Utf32LE:
+            return std::make_unique<EncoderUTF32>(false);
+        case Charset::Utf32BE:
+            return std::make_unique<EncoderUTF32>(true);
+    }
+    throw std::logic_error("charset");
+}
+
+// Transcode's documented behaviour, one virtual call at a time.
+std::string Reference(const std::string& input, Charset from, Charset to) {
+    const auto decoder = MakeDecoder(from);
+    const auto encoder = MakeEncoder(to);
+    std::string output;
+    for (const char c : input) {
+        decoder->Add(static_cast<unsigned char>(c));
+        if (decoder->IsComplete()) {
+            CodePoint codePoint = decoder->GetResult();
+            if (encoder->GetNbBytes(codePoint) == 0) {
+                codePoint = 0xFFFD;
+            }
+            unsigned char bytes[4];
+            encoder->Encode(codePoint, bytes);
+            output.append(reinterpret_cast<const char*>(bytes), encoder->GetNbBytes(codePoint));
+        }
+    }
+    return output;
+}
+
+TEST(Charset, NamesAndAliases) {
+    const char* canonical[] = {"ascii",    "cp437",    "iso-8859-1", "iso-8859-2", "utf-8",
+                               "utf-16le", "utf-16be", "utf-32le",   "utf-32be"};
+    ASSERT_EQ(GetCharsets().size(), 9u);
+    for (std::size_t i = 0; i < 9; ++i) {
+        EXPECT_EQ(ToString(GetCharsets()[i]), canonical[i]);
+        EXPECT_EQ(ToCharset(canonical[i]), GetCharsets()[i]);
+        for (const std::string& alias : GetAliases(GetCharsets()[i])) {
+            EXPECT_EQ(ToCharset(alias), GetCharsets()[i]) << alias;
+        }
+    }
+    EXPECT_EQ(ToCharset("UTF8"), Charset::Utf8);
+    EXPECT_EQ(ToCharset("ISO_8859-2"), Charset::CodePage28592);
+    EXPECT_EQ(ToCharset("Latin1"), Charset::CodePage28591);
+    EXPECT_EQ(ToCharset("IBM437"), Charset::CodePage437);
+    EXPECT_EQ(ToCharset("US-ASCII"), Charset::Ascii);
+    EXPECT_EQ(ToCharset("utf-16BE"), Charset::Utf16BE);
+    EXPECT_EQ(ToString(static_cast<Charset>(9)), "unknown");
+    EXPECT_TRUE(GetAliases(static_cast<Charset>(-1)).empty());
+    for (const char* unknown : {"utf-16", "utf-32", "latin3", "", "-", "cp1252"}) {
+        try {
+            ToCharset(unknown);
+            ADD_FAILURE() << unknown;
+        } catch (const std::invalid_argument& e) {
+            EXPECT_EQ(std::string(e.what()), std::string("Unknown charset: ") + unknown);
+        }
+    }
+}
+
+TEST(Transcode, DocumentedChoices) {
+    struct Case {
+        Charset from, to;
+        std::string input, output;
+    };
+    const Case cases[] = {
+        {Charset::Utf8, Charset::CodePage28592, "Ko\xC5\x88 \xC3\xA9t\xC3\xA9", "Ko\xF2 \xE9t\xE9"},
+        {Charset::Utf8, Charset::CodePage437, "\xE2\x94\x80\xE2\x82\xAC", "\xC4?"},  // U+20AC is lacking
+        {Charset::CodePage437, Charset::Utf8, "\x82\xFE", "\xC3\xA9\xE2\x96\xA0"},
+        {Charset::Utf8, Charset::Utf16LE, "A\xF0\x9F\x98\x80", std::string("A\0\x3D\xD8\x00\xDE", 6)},
+        // Dropped bytes and a partial tail give nothing.
+        {Charset::Utf8, Charset::Utf8,
+         "\x80"
+         "a\xC3"
+         "b\xFE\xE2\x82",
+         "ab"},
+        {Charset::Utf16LE, Charset::Utf8, std::string("A\0B", 3), "A"},
+        // Refused code points become U+FFFD.
+        {Charset::Utf8, Charset::Utf8, "\xED\xA0\x80|\xF4\x90\x80\x80", "\xEF\xBF\xBD|\xEF\xBF\xBD"},
+        {Charset::Utf16BE, Charset::Utf16LE, std::string("\xDC\x00\x00\x41", 4),
+         std::string("\xFD\xFF\x41\x00", 4)},
+        {Charset::Utf32BE, Charset::Utf8, std::string("\x00\x11\x00\x00", 4), "\xEF\xBF\xBD"},
+        // UTF-32 writes anything; a negative value gives UTF-8 the one byte GetNbBytes announces.
+        {Charset::Utf8, Charset::Utf32BE, "\xED\xA0\x80", std::string("\x00\x00\xD8\x00", 4)},
+        {Charset::Utf32LE, Charset::Utf8, "\xFF\xFF\xFF\xFF", "\xFF"},
+        {Charset::Utf32LE, Charset::Utf16BE, "\xFE\xFF\xFF\xFF", "\xFF\xFE"},
+        {Charset::Ascii, Charset::Utf8, "\xE9", "\xC3\xA9"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(Transcode(c.input, c.from, c.to), c.output) << ToString(c.from) << " to " << ToString(c.to);
+        EXPECT_EQ(Reference(c.input, c.from, c.to), c.output) << ToString(c.from) << " to " << ToString(c.to);
+    }
+}
+
+TEST(Transcode, OutputUntouchedOnUnknownCharsetAndMayBeTheInput) {
+    std::string output = "kept";
+    for (const auto& [from, to] : {std::pair{Charset::Utf8, static_cast<Charset>(9)},
+                                   std::pair{static_cast<Charset>(-1), Charset::Utf8}}) {
+        try {
+            Transcode("abc", from, to, output);
+            ADD_FAILURE();
+        } catch (const std::invalid_argument& e) {
+            EXPECT_STREQ(e.what(), from == Charset::Utf8 ? "Unknown charset: 9" : "Unknown charset: -1");
+        }
+        EXPECT_EQ(output, "kept");
+    }
+    Transcode("", Charset::Utf8, Charset::Utf16LE, output);
+    EXPECT_EQ(output, "");
+    output = "h\xC3\xA9";
+    Transcode(output, Charset::Utf8, Charset::Utf32BE, output);
+    EXPECT_EQ(output, std::string("\0\0\0h\0\0\0\xE9", 8));
+}
+
+// Every pair of charsets on inputs long enough to cross the internal chunks, mixing ASCII runs,
+// well-formed and malformed UTF-8 and random bytes, against the one-call-at-a-time reference.
+TEST(Transcode, EveryPairMatchesTheCodersOneByteAtATime) {
+    std::mt19937 random(20240607);
+    const std::string pieces[] = {"plain ASCII text, long enough for the eight-byte path ",
+                                  "\xC3\xA9",
+                                  "\xE2\x94\x80",
+                                  "\xF0\x9F\x98\x80",
+                                  "\xED\xA0\x80",
+                                  "\xC3",
+                                  "\x80",
+                                  "\xF8\x88\x80\x80\x80",
+                                  "\xFF",
+                                  std::string("\0\xD8\x00\xDC", 4)};
+    for (int round = 0; round < 4; ++round) {
+        std::string input;
+        while (input.size() < 9000) {
+            if (random() % 4 == 0) {
+                input += static_cast<char>(random());
+            } else {
+                input += pieces[random() % std::size(pieces)];
+            }
+        }
+        input.resize(input.size() - round);  // tails cut at every offset of a 4-byte unit
+        for (const Charset from : GetCharsets()) {
+            for (const Charset to : GetCharsets()) {
+                ASSERT_EQ(Transcode(input, from, to), Reference(input, from, to))
+                    << ToString(from) << " to " << ToString(to) << ", round " << round;
+            }
+        }
+    }
+}
+
+}  // namespace
