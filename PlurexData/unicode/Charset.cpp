@@ -1,5 +1,20 @@
 #include "PlurexData/unicode/Charset.h"
 
+#include "PlurexData/unicode/DecoderASCII.h"
+#include "PlurexData/unicode/DecoderCodePage28591.h"
+#include "PlurexData/unicode/DecoderCodePage28592.h"
+#include "PlurexData/unicode/DecoderCodePage437.h"
+#include "PlurexData/unicode/DecoderUTF16.h"
+#include "PlurexData/unicode/DecoderUTF32.h"
+#include "PlurexData/unicode/DecoderUTF8.h"
+#include "PlurexData/unicode/EncoderASCII.h"
+#include "PlurexData/unicode/EncoderCodePage28591.h"
+#include "PlurexData/unicode/EncoderCodePage28592.h"
+#include "PlurexData/unicode/EncoderCodePage437.h"
+#include "PlurexData/unicode/EncoderUTF16.h"
+#include "PlurexData/unicode/EncoderUTF32.h"
+#include "PlurexData/unicode/EncoderUTF8.h"
+
 #include <stdexcept>
 
 namespace Korv::Plurex::Unicode {
@@ -88,6 +103,54 @@ const std::vector<Charset>& GetCharsets() {
 std::vector<std::string> GetAliases(Charset charset) {
     const Names* names = Find(charset);
     return names == nullptr ? std::vector<std::string>{} : names->aliases;
+}
+
+std::unique_ptr<Decoder> MakeDecoder(Charset charset) {
+    switch (charset) {
+        case Charset::Ascii:
+            return std::make_unique<DecoderASCII>();
+        case Charset::CodePage437:
+            return std::make_unique<DecoderCodePage437>();
+        case Charset::CodePage28591:
+            return std::make_unique<DecoderCodePage28591>();
+        case Charset::CodePage28592:
+            return std::make_unique<DecoderCodePage28592>();
+        case Charset::Utf8:
+            return std::make_unique<DecoderUTF8>();
+        case Charset::Utf16LE:
+            return std::make_unique<DecoderUTF16>(false);
+        case Charset::Utf16BE:
+            return std::make_unique<DecoderUTF16>(true);
+        case Charset::Utf32LE:
+            return std::make_unique<DecoderUTF32>(false);
+        case Charset::Utf32BE:
+            return std::make_unique<DecoderUTF32>(true);
+    }
+    throw std::invalid_argument("Unknown charset: " + std::to_string(static_cast<std::int32_t>(charset)));
+}
+
+std::unique_ptr<Encoder> MakeEncoder(Charset charset) {
+    switch (charset) {
+        case Charset::Ascii:
+            return std::make_unique<EncoderASCII>();
+        case Charset::CodePage437:
+            return std::make_unique<EncoderCodePage437>();
+        case Charset::CodePage28591:
+            return std::make_unique<EncoderCodePage28591>();
+        case Charset::CodePage28592:
+            return std::make_unique<EncoderCodePage28592>();
+        case Charset::Utf8:
+            return std::make_unique<EncoderUTF8>();
+        case Charset::Utf16LE:
+            return std::make_unique<EncoderUTF16>(false);
+        case Charset::Utf16BE:
+            return std::make_unique<EncoderUTF16>(true);
+        case Charset::Utf32LE:
+            return std::make_unique<EncoderUTF32>(false);
+        case Charset::Utf32BE:
+            return std::make_unique<EncoderUTF32>(true);
+    }
+    throw std::invalid_argument("Unknown charset: " + std::to_string(static_cast<std::int32_t>(charset)));
 }
 
 }  // namespace Korv::Plurex::Unicode

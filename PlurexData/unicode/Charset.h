@@ -3,11 +3,15 @@
 #include "PlurexData/Export.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Korv::Plurex::Unicode {
+
+class Decoder;
+class Encoder;
 
 // The character sets of the encoders and decoders, for whole-buffer conversion (Transcode).
 enum class Charset : std::int32_t {
@@ -38,5 +42,11 @@ PLUREXDATA_API const std::vector<Charset>& GetCharsets();
 // The other names ToCharset accepts for `charset` (spelt as usually written); empty for a value
 // outside the enumeration.
 PLUREXDATA_API std::vector<std::string> GetAliases(Charset charset);
+
+// A new decoder or encoder of `charset`, for callers that choose the charset at run time and go one
+// byte or code point at a time (Transcode is the fast path for whole buffers). Throw
+// std::invalid_argument("Unknown charset: " followed by the number) for a value outside the enumeration.
+PLUREXDATA_API std::unique_ptr<Decoder> MakeDecoder(Charset charset);
+PLUREXDATA_API std::unique_ptr<Encoder> MakeEncoder(Charset charset);
 
 }  // namespace Korv::Plurex::Unicode

@@ -1,19 +1,6 @@
 #include "PlurexData/unicode/Charset.h"
-#include "PlurexData/unicode/DecoderASCII.h"
-#include "PlurexData/unicode/DecoderCodePage28591.h"
-#include "PlurexData/unicode/DecoderCodePage28592.h"
-#include "PlurexData/unicode/DecoderCodePage437.h"
-#include "PlurexData/unicode/DecoderUTF16.h"
-#include "PlurexData/unicode/DecoderUTF32.h"
-#include "PlurexData/unicode/DecoderUTF8.h"
-#include "PlurexData/unicode/EncoderASCII.h"
-#include "PlurexData/unicode/EncoderCodePage28591.h"
-#include "PlurexData/unicode/EncoderCodePage28592.h"
-#include "PlurexData/unicode/EncoderCodePage437.h"
-#include "PlurexData/unicode/EncoderUTF16.h"
-#include "PlurexData/unicode/EncoderUTF32.h"
-#include "PlurexData/unicode/EncoderUTF8.h"
 #include "PlurexData/unicode/Transcode.h"
+#include "ReferenceTranscode.h"
 
 #include <gtest/gtest.h>
 
@@ -27,74 +14,6 @@
 namespace {
 
 using namespace Korv::Plurex::Unicode;
-
-std::unique_ptr<Decoder> MakeDecoder(Charset charset) {
-    switch (charset) {
-        case Charset::Ascii:
-            return std::make_unique<DecoderASCII>();
-        case Charset::CodePage437:
-            return std::make_unique<DecoderCodePage437>();
-        case Charset::CodePage28591:
-            return std::make_unique<DecoderCodePage28591>();
-        case Charset::CodePage28592:
-            return std::make_unique<DecoderCodePage28592>();
-        case Charset::Utf8:
-            return std::make_unique<DecoderUTF8>();
-        case Charset::Utf16LE:
-            return std::make_unique<DecoderUTF16>(false);
-        case Charset::Utf16BE:
-            return std::make_unique<DecoderUTF16>(true);
-        case Charset::Utf32LE:
-            return std::make_unique<DecoderUTF32>(false);
-        case Charset::Utf32BE:
-            return std::make_unique<DecoderUTF32>(true);
-    }
-    throw std::logic_error("charset");
-}
-
-std::unique_ptr<Encoder> MakeEncoder(Charset charset) {
-    switch (charset) {
-        case Charset::Ascii:
-            return std::make_unique<EncoderASCII>();
-        case Charset::CodePage437:
-            return std::make_unique<EncoderCodePage437>();
-        case Charset::CodePage28591:
-            return std::make_unique<EncoderCodePage28591>();
-        case Charset::CodePage28592:
-            return std::make_unique<EncoderCodePage28592>();
-        case Charset::Utf8:
-            return std::make_unique<EncoderUTF8>();
-        case Charset::Utf16LE:
-            return std::make_unique<EncoderUTF16>(false);
-        case Charset::Utf16BE:
-            return std::make_unique<EncoderUTF16>(true);
-        case Charset::Utf32LE:
-            return std::make_unique<EncoderUTF32>(false);
-        case Charset::Utf32BE:
-            return std::make_unique<EncoderUTF32>(true);
-    }
-    throw std::logic_error("charset");
-}
-
-// Transcode's documented behaviour, one virtual call at a time.
-std::string Reference(const std::string& input, Charset from, Charset to) {
-    const auto decoder = MakeDecoder(from);
-    const auto encoder = MakeEncoder(to);
-    std::string output;
-    for (const char c : input) {
-        decoder->Add(static_cast<unsigned char>(c));
-        if (decoder->IsComplete()) {
-            CodePoint codePoint = decoder->GetResult();
-            if (encoder->GetNbBytes(codePoint) == 0) {
-                codePoint = 0xFFFD;
-            }
-            unsigned char bytes[4];
-            encoder->Encode(codePoint, bytes);
-            output.append(reinterpret_cast<const char*>(bytes), encoder->GetNbBytes(codePoint));
-        }
-    }
-    return output;
-}
 
 TEST(Charset, NamesAndAliases) {
     const char* canonical[] = {"ascii",    "cp437",    "iso-8859-1", "iso-8859-2", "utf-8",
@@ -121,6 +40,15 @@ TEST(Charset, NamesAndAliases) {
             ADD_FAILURE() << unknown;
         } catch (const std::invalid_argument& e) {
             EXPECT_EQ(std::string(e.what()), std::string("Unknown charset: ") + unknown);
+        }
+    }
+    for (auto make :
+         {+[] { MakeDecoder(static_cast<Charset>(9)); }, +[] { MakeEncoder(static_cast<Charset>(9)); }}) {
+        try {
+            make();
+            ADD_FAILURE();
+        } catch (const std::invalid_argument& e) {
+            EXPECT_STREQ(e.what(), "Unknown charset: 9");
         }
     }
 }
@@ -155,7 +83,8 @@ TEST(Transcode, DocumentedChoices) {
     };
     for (const Case& c : cases) {
         EXPECT_EQ(Transcode(c.input, c.from, c.to), c.output) << ToString(c.from) << " to " << ToString(c.to);
-        EXPECT_EQ(Reference(c.input, c.from, c.to), c.output) << ToString(c.from) << " to " << ToString(c.to);
+        EXPECT_EQ(PlurexTest::ReferenceTranscode(c.input, c.from, c.to), c.output)
+            << ToString(c.from) << " to " << ToString(c.to);
     }
 }
 
@@ -204,7 +133,7 @@ TEST(Transcode, EveryPairMatchesTheCodersOneByteAtATime) {
         input.resize(input.size() - round);  // tails cut at every offset of a 4-byte unit
         for (const Charset from : GetCharsets()) {
             for (const Charset to : GetCharsets()) {
-                ASSERT_EQ(Transcode(input, from, to), Reference(input, from, to))
+                ASSERT_EQ(Transcode(input, from, to), PlurexTest::ReferenceTranscode(input, from, to))
                     << ToString(from) << " to " << ToString(to) << ", round " << round;
             }
         }
