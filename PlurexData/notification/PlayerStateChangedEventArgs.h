@@ -14,7 +14,7 @@ public:
                                 const Data::Channels::PlayerState& state);
     // Every field, the time stamp included.
     PlayerStateChangedEventArgs(const PlayerStateChangedEventArgs& other);
-    PlayerStateChangedEventArgs(PlayerStateChangedEventArgs&& other);
+    PlayerStateChangedEventArgs(PlayerStateChangedEventArgs&& other) noexcept;
     ~PlayerStateChangedEventArgs() override;
 
     Data::Channels::PlayerState::StatusChange GetStatusChange() const noexcept { return change_; }

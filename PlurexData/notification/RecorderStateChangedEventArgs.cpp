@@ -10,7 +10,7 @@ RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(
 RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(const RecorderStateChangedEventArgs& other) =
     default;
 
-RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(RecorderStateChangedEventArgs&& other) = default;
+RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(RecorderStateChangedEventArgs&& other) noexcept = default;
 
 RecorderStateChangedEventArgs::~RecorderStateChangedEventArgs() = default;
 

@@ -14,7 +14,7 @@ public:
                                   const Data::Channels::RecorderState& state);
     // Every field, the time stamp included.
     RecorderStateChangedEventArgs(const RecorderStateChangedEventArgs& other);
-    RecorderStateChangedEventArgs(RecorderStateChangedEventArgs&& other);
+    RecorderStateChangedEventArgs(RecorderStateChangedEventArgs&& other) noexcept;
     ~RecorderStateChangedEventArgs() override;
 
     Data::Channels::RecorderState::StatusChange GetStatusChange() const noexcept { return change_; }

@@ -181,8 +181,8 @@ Decoded DecodeTimecode(const unsigned char* at) {
     const TimeCode& base =
         (value & Rate60Bit) == 0 ? bases.pal : ((value & DropBit) != 0 ? bases.ntscDrop : bases.ntsc);
     // Signed 64-bit arithmetic, wrapping rather than overflowing.
-    const auto total =
-        static_cast<long long>(static_cast<std::uint64_t>(base.GetTotalSample()) + (value & CountMask));
+    const std::uint64_t sum = static_cast<std::uint64_t>(base.GetTotalSample()) + (value & CountMask);
+    const auto total = static_cast<long long>(sum);
     if (total < 0) {
         NegativeTotal(total);
     }
