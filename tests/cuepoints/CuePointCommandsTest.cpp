@@ -11,35 +11,19 @@
 using namespace CuePointTests;
 using namespace Korv::Plurex::BusinessObjects::CuePoints;
 
-TEST(CuePointDeleteCommand, EqualityClearAndNulls) {
+TEST(CuePointCommands, EqualityClearDefaultsAndNulls) {
     const CuePointDeleteCommand clip(UmId("CLIP"), false), train(UmId("CLIP"), true);
-    EXPECT_FALSE(clip == train);
-    EXPECT_TRUE(clip != train);
+    EXPECT_TRUE(!(clip == train) && clip != train);
     EXPECT_TRUE(clip == CuePointDeleteCommand(UmId("CLIP", true), false));  // UmId == ignores the flag
-    EXPECT_FALSE(clip == static_cast<const CuePointDeleteCommand*>(nullptr));
-    EXPECT_TRUE(clip != static_cast<const CuePointDeleteCommand*>(nullptr));
-
+    const auto* none = static_cast<const CuePointDeleteCommand*>(nullptr);
+    EXPECT_TRUE(!(clip == none) && clip != none);
     CuePointDeleteCommand cleared(UmId("CLIP"), true);
     cleared.Clear();
-    EXPECT_TRUE(cleared == CuePointDeleteCommand(UmId::Empty(), false));
-    EXPECT_TRUE(CuePointDeleteCommand() == cleared);
-    cleared.SetClipId(UmId("NEXT"), true);
-    EXPECT_TRUE(cleared.IsTrain());
-    EXPECT_STREQ(cleared.GetClipId().GetUmId(), "NEXT");
-    EXPECT_TRUE(CuePointDeleteCommand(&train) == train);
-    ExpectThrow<std::invalid_argument>(
-        [] { CuePointDeleteCommand{static_cast<const CuePointDeleteCommand*>(nullptr)}; },
-        "Null CuePointDeleteCommand");
-}
+    EXPECT_TRUE(cleared == CuePointDeleteCommand(UmId::Empty(), false) && CuePointDeleteCommand() == cleared);
+    ExpectThrow<std::invalid_argument>([none] { CuePointDeleteCommand{none}; }, "Null CuePointDeleteCommand");
 
-TEST(CuePointCopyCommand, DefaultsFormsAndNullCopy) {
-    CuePointCopyCommand command;
-    EXPECT_FALSE(command.IsTrain());
-    EXPECT_EQ(command.GetCamera(), 0);
-    EXPECT_EQ(command.GetServerId().GetValue(), -1);
-    command.SetClipIdSource(UmId("SRC"), true);
-    EXPECT_TRUE(command.IsTrain());
-    EXPECT_TRUE(CuePointCopyCommand(&command).IsTrain());
+    const CuePointCopyCommand copy;
+    EXPECT_TRUE(!copy.IsTrain() && copy.GetCamera() == 0 && copy.GetServerId().GetValue() == -1);
     ExpectThrow<std::invalid_argument>(
         [] { CuePointCopyCommand{static_cast<const CuePointCopyCommand*>(nullptr)}; },
         "Null CuePointCopyCommand");
@@ -50,17 +34,13 @@ TEST(CuePointDbEventArgs, CarriesWhatItWasGivenAndDefaultsTheRest) {
     EXPECT_EQ(static_cast<int>(CuePointDbEventType::CuePointRemoved), 2);
     EXPECT_EQ(static_cast<int>(CuePointDbEventType::CuePointsRemovedAll), 4);
 
-    CuePoint mark = Mark(77);
-    mark.SetNumber(5);
-    const CuePointDbEventArgs added(2, CuePointDbEventType::CuePointAdded, mark);
-    EXPECT_EQ(added.GetUser(), 2);
-    EXPECT_EQ(added.GetType(), CuePointDbEventType::CuePointAdded);
-    EXPECT_EQ(added.GetCuePoint().GetNumber(), 5);
+    const CuePointDbEventArgs added(2, CuePointDbEventType::CuePointAdded, Mark(77));
+    EXPECT_TRUE(added.GetUser() == 2 && added.GetType() == CuePointDbEventType::CuePointAdded &&
+                added.GetCuePoint().GetTc() == 77);
     EXPECT_TRUE(added.GetDeleteCommand() == CuePointDeleteCommand());
-
-    const CuePointDbEventArgs removed(3, CuePointDbEventType::CuePointsRemovedAll,
-                                      CuePointDeleteCommand(UmId("CLIP"), true));
-    EXPECT_TRUE(removed.GetDeleteCommand() == CuePointDeleteCommand(UmId("CLIP"), true));
+    const CuePointDeleteCommand command(UmId("CLIP"), true);
+    const CuePointDbEventArgs removed(3, CuePointDbEventType::CuePointsRemovedAll, command);
+    EXPECT_TRUE(removed.GetDeleteCommand() == command);
     EXPECT_EQ(removed.GetCuePoint().GetServerId().GetValue(), -1);
 
     // Handed around and destroyed through the root class.
@@ -68,6 +48,5 @@ TEST(CuePointDbEventArgs, CarriesWhatItWasGivenAndDefaultsTheRest) {
         std::make_unique<CuePointDbEventArgs>(1, CuePointDbEventType::CuePointRemoved);
     const auto* back = dynamic_cast<const CuePointDbEventArgs*>(root.get());
     ASSERT_NE(back, nullptr);
-    EXPECT_EQ(back->GetUser(), 1);
-    EXPECT_EQ(back->GetCuePoint().GetTc(), 0);
+    EXPECT_TRUE(back->GetUser() == 1 && back->GetCuePoint().GetTc() == 0);
 }

@@ -14,6 +14,9 @@ namespace CuePointTests {
 using Korv::Plurex::BusinessObjects::CuePoints::CuePoint;
 using Korv::Plurex::Data::Clips::UmId;
 using Korv::Plurex::Data::Servers::ServerId;
+using List = std::vector<CuePoint>;
+using Tcs = std::vector<long long>;
+using Nums = std::vector<int>;
 
 inline CuePoint Mark(long long tc, const char* clip = "CLIPA", int server = 10, bool train = false) {
     return CuePoint(tc, 0, ServerId(server), UmId(clip), train);
@@ -38,20 +41,19 @@ void ExpectThrow(Action action, const char* message) {
     }
 }
 
-inline std::vector<long long> Positions(const std::vector<CuePoint>& list) {
-    std::vector<long long> positions;
+template <class T>
+std::vector<T> Each(const List& list, T (CuePoint::*get)() const noexcept) {
+    std::vector<T> values;
     for (const CuePoint& mark : list) {
-        positions.push_back(mark.GetTc());
+        values.push_back((mark.*get)());
     }
-    return positions;
+    return values;
 }
-
-inline std::vector<int> Numbers(const std::vector<CuePoint>& list) {
-    std::vector<int> numbers;
-    for (const CuePoint& mark : list) {
-        numbers.push_back(mark.GetNumber());
-    }
-    return numbers;
+inline Tcs Positions(const List& list) {
+    return Each(list, &CuePoint::GetTc);
+}
+inline Nums Numbers(const List& list) {
+    return Each(list, &CuePoint::GetNumber);
 }
 
 }  // namespace CuePointTests

@@ -1,42 +1,19 @@
 #include "Samples.h"
 
-#include "PlurexData/notification/PlurexChannelNotifyer.h"
-#include "PlurexData/notification/PlurexServerNotifyer.h"
-
-#include <gtest/gtest.h>
-
-#include <cstdint>
 #include <functional>
-#include <memory>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
-using namespace Korv::Plurex::Notification;
 using namespace NotificationTests;
-using Korv::Plurex::Data::Channels::PlayerState;
-using Korv::Plurex::Data::Channels::RecorderState;
-using ChannelGuid = Korv::Plurex::Data::Channels::Guid;
 
 namespace {
 
-using Calls = std::vector<std::string>;
-
-void WatchAll(PlurexChannelNotifyer& notifier, Log& log) {
-    Watch(notifier.recorderTransportProcessedCallbacks, "0", log);
-    Watch(notifier.playerLoadProcessedCallbacks, "1", log);
-    Watch(notifier.playerTransportProcessedCallbacks, "2", log);
-    Watch(notifier.recorderStateChangedCallbacks, "recorder", log);
-    Watch(notifier.playerStateChangedCallbacks, "player", log);
-    WatchGeneric(notifier.genericCommandCallbacks, "g", log);
-    WatchGeneric(notifier.genericStatusCallbacks, "s", log);
-}
-
-void WatchAll(PlurexServerNotifyer& notifier, Log& log) {
-    Watch(notifier.serverAddedCallbacks, "0", log);
-    Watch(notifier.serverRemovedCallbacks, "1", log);
-    Watch(notifier.disconnectedFromNetworkCallbacks, "2", log);
-    WatchGeneric(notifier.genericCallbacks, "g", log);
+void WatchAll(PlurexChannelNotifyer& n, Log& log) {
+    WatchNumbered(log, n.recorderTransportProcessedCallbacks, n.playerLoadProcessedCallbacks,
+                  n.playerTransportProcessedCallbacks);
+    Watch(n.recorderStateChangedCallbacks, "recorder", log);
+    Watch(n.playerStateChangedCallbacks, "player", log);
+    WatchGeneric(n.genericCommandCallbacks, "g", log);
+    WatchGeneric(n.genericStatusCallbacks, "s", log);
 }
 
 const ChannelGuid& Channel() {
@@ -50,20 +27,14 @@ TEST(PlurexChannelNotifyer, EveryTypeValueReachesItsListThenTheGenericOne) {
     PlurexChannelNotifyer notifier;
     Log log;
     WatchAll(notifier, log);
-    const std::vector<std::function<std::shared_ptr<ChannelCommandEventArgs>()>> commands = {
-        [] { return std::make_shared<RecorderTransportProcessedEventArgs>(); },
-        [] { return std::make_shared<PlayerLoadProcessedEventArgs>(); },
-        [] { return std::make_shared<PlayerTransportProcessedEventArgs>(); },
-        [] { return std::make_shared<ChannelCommandEventArgs>(); },
-    };
+    const std::shared_ptr<ChannelCommandEventArgs> commands[] = {
+        std::make_shared<RecorderTransportProcessedEventArgs>(),
+        std::make_shared<PlayerLoadProcessedEventArgs>(),
+        std::make_shared<PlayerTransportProcessedEventArgs>(), std::make_shared<ChannelCommandEventArgs>()};
     for (std::int32_t type = 0; type < 4; ++type) {
-        log.Clear();
-        const auto args = commands[static_cast<std::size_t>(type)]();
-        notifier.SendEvent(args, static_cast<ChannelCommandEvent::Type>(type));
-        notifier.Run();
         const std::string generic = "g" + std::to_string(type);
-        EXPECT_EQ(log.calls, type < 3 ? Calls({std::to_string(type), generic}) : Calls({generic})) << type;
-        EXPECT_EQ(log.objects.back(), args.get());
+        EXPECT_EQ(Deliver(notifier, log, commands[type], static_cast<ChannelCommandEvent::Type>(type)),
+                  type < 3 ? Calls({std::to_string(type), generic}) : Calls({generic}));
     }
 
     const std::shared_ptr<ChannelStatusEventArgs> statuses[] = {
@@ -75,17 +46,14 @@ TEST(PlurexChannelNotifyer, EveryTypeValueReachesItsListThenTheGenericOne) {
     };
     const Calls expected[] = {{"recorder", "s0"}, {"player", "s1"}, {"s2"}};
     for (std::int32_t type = 0; type < 3; ++type) {
-        log.Clear();
-        notifier.SendEvent(statuses[type], static_cast<ChannelStatusEvent::Type>(type));
-        notifier.Run();
-        EXPECT_EQ(log.calls, expected[type]) << type;
-        EXPECT_EQ(log.objects.front(), statuses[type].get());
+        EXPECT_EQ(Deliver(notifier, log, statuses[type], static_cast<ChannelStatusEvent::Type>(type)),
+                  expected[type]);
     }
 
     // One Run: the command first, then the status event.
     log.Clear();
     notifier.SendEvent(statuses[1], ChannelStatusEvent::Type::PlayerStateChanged);
-    notifier.SendEvent(commands[1](), ChannelCommandEvent::Type::PlayerLoadProcessed);
+    notifier.SendEvent(commands[1], ChannelCommandEvent::Type::PlayerLoadProcessed);
     notifier.Run();
     EXPECT_EQ(log.calls, Calls({"1", "g1", "player", "s1"}));
     log.Clear();
@@ -122,8 +90,9 @@ TEST(PlurexChannelNotifyer, FailuresLoseTheEventAndSkipTheRestOfRun) {
 TEST(PlurexServerNotifyer, RoutesEveryTypeValueThroughItsSingleQueue) {
     PlurexServerNotifyer notifier;
     Log log;
-    notifier.Run();
-    WatchAll(notifier, log);
+    WatchNumbered(log, notifier.serverAddedCallbacks, notifier.serverRemovedCallbacks,
+                  notifier.disconnectedFromNetworkCallbacks);
+    WatchGeneric(notifier.genericCallbacks, "g", log);
     notifier.Run();
     EXPECT_TRUE(log.calls.empty());
 

@@ -1,17 +1,8 @@
-#include "PlurexData/notification/PlurexClipNotifyer.h"
-#include "PlurexData/notification/PlurexServerNotifyer.h"
-
 #include "Samples.h"
 
-#include <gtest/gtest.h>
-
 #include <chrono>
-#include <cstdint>
-#include <memory>
 #include <thread>
-#include <vector>
 
-using namespace Korv::Plurex::Notification;
 using namespace NotificationTests;
 
 namespace {
@@ -35,18 +26,28 @@ struct Sequences {
 
     void Arrived(std::uint32_t producer, std::uint32_t number) {
         ++received;
-        if (producer >= Producers || next[producer] != number) {
-            ++outOfOrder;
-            return;
-        }
-        ++next[producer];
+        outOfOrder += producer >= Producers || next[producer]++ != number;
     }
 };
+
+// Calls Run until `done` or a deadline, then joins the producers.
+template <class Notifier, class Done>
+void Consume(Notifier& notifier, std::vector<std::thread>& producers, Done done) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes(2);
+    while (!done() && std::chrono::steady_clock::now() < deadline) {
+        notifier.Run();
+    }
+    for (auto& producer : producers) {
+        producer.join();
+    }
+    notifier.Run();  // nothing more may arrive
+}
 
 }  // namespace
 
 // Producers alternate between the two queues while the consumer drains them; every event arrives
-// once, each producer's events in the order it sent them.
+// once, each producer's events in the order it sent them (all received and none out of order leaves
+// every producer's next number at its count).
 TEST(PlurexClipNotifyer, ManyProducersOneConsumer) {
     PlurexClipNotifyer notifier;
     Sequences commands, statuses;
@@ -73,29 +74,17 @@ TEST(PlurexClipNotifyer, ManyProducersOneConsumer) {
             }
         });
     }
-
     const std::uint64_t perQueue = std::uint64_t{Producers} * EventsPerProducer / 2;
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes(2);
-    while ((commands.received < perQueue || statuses.received < perQueue) &&
-           std::chrono::steady_clock::now() < deadline) {
-        notifier.Run();
-    }
-    for (auto& producer : producers) {
-        producer.join();
-    }
-    notifier.Run();  // nothing more may arrive
+    Consume(notifier, producers,
+            [&] { return commands.received >= perQueue && statuses.received >= perQueue; });
 
     EXPECT_EQ(commands.received, perQueue);
     EXPECT_EQ(statuses.received, perQueue);
     EXPECT_EQ(commands.outOfOrder, 0u);
     EXPECT_EQ(statuses.outOfOrder, 0u);
-    for (std::uint32_t p = 0; p < Producers; ++p) {
-        EXPECT_EQ(commands.next[p], EventsPerProducer / 2) << p;
-        EXPECT_EQ(statuses.next[p], EventsPerProducer / 2) << p;
-    }
 }
 
-// The same with the single queue of the server notifier and a producer posting from a callback.
+// The same with the single queue of the server notifier and a callback posting as it runs.
 TEST(PlurexServerNotifyer, ProducersAndACallbackPostingTogether) {
     constexpr int PerProducer = 20000;
     PlurexServerNotifyer notifier;
@@ -116,14 +105,7 @@ TEST(PlurexServerNotifyer, ProducersAndACallbackPostingTogether) {
             }
         });
     }
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes(2);
-    while (removed < 2 * PerProducer && std::chrono::steady_clock::now() < deadline) {
-        notifier.Run();
-    }
-    for (auto& producer : producers) {
-        producer.join();
-    }
-    notifier.Run();
+    Consume(notifier, producers, [&] { return removed >= 2 * PerProducer; });
     EXPECT_EQ(added, 2 * PerProducer);
     EXPECT_EQ(removed, 2 * PerProducer);
 }

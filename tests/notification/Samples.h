@@ -2,50 +2,77 @@
 
 #include "PlurexData/data/Guid.h"
 #include "PlurexData/data/clips/Clip.h"
-#include "PlurexData/notification/ClipCommandEventArgs.h"
+#include "PlurexData/notification/PlurexChannelNotifyer.h"
+#include "PlurexData/notification/PlurexClipNotifyer.h"
+#include "PlurexData/notification/PlurexServerNotifyer.h"
 #include "PlurexData/system/EventArgs.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
+#include <limits>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace NotificationTests {
 
+using namespace Korv::Plurex::Notification;
+using Korv::Plurex::Data::OperationResult;
+using Korv::Plurex::Data::Channels::PlayerState;
+using Korv::Plurex::Data::Channels::RecorderState;
+using Korv::Plurex::Data::Clips::Angle;
+using ChannelGuid = Korv::Plurex::Data::Channels::Guid;
 using Korv::Plurex::Data::Guid;
 using Korv::Plurex::Data::Clips::Clip;
 using Source = Korv::Plurex::Notification::ClipCommandEventArgs::RequestSource;
+using Calls = std::vector<std::string>;
 
 inline const Guid& SampleGuid() {
     static const Guid guid = Guid::FromString("00112233-4455-6677-8899-aabbccddeeff");
     return guid;
 }
 
-// A default clip told apart from others by a field the clip's equality compares.
-inline Clip TaggedClip(std::int32_t tag) {
-    Clip clip;
-    clip.value1 = tag;
-    return clip;
-}
+// The six common arguments of the clip commands, at the edges of their widths.
+#define COMMON                                                                      \
+    0xFFFFFFFFu, Source::Network, 0x80000000u, std::uint16_t{0xFFFF}, SampleGuid(), \
+        std::numeric_limits<long long>::min()
 
 // What the callbacks of a test saw: a name per call and the object each one received.
 struct Log {
-    std::vector<std::string> calls;
+    Calls calls;
     std::vector<const Korv::System::EventArgs*> objects;
 
     void Add(std::string name, const Korv::System::EventArgs& args) {
         calls.push_back(std::move(name));
         objects.push_back(&args);
     }
-    void Clear() {
-        calls.clear();
-        objects.clear();
-    }
+    void Clear() { *this = Log(); }
 };
+
+// Posts `args` alone, runs once and returns the calls, each of which got that very object.
+template <class Notifier, class Args, class Type>
+Calls Deliver(Notifier& notifier, Log& log, const std::shared_ptr<Args>& args, Type type) {
+    log.Clear();
+    notifier.SendEvent(args, type);
+    notifier.Run();
+    for (const auto* object : log.objects) {
+        EXPECT_EQ(object, args.get()) << static_cast<std::int32_t>(type);  // shared, never copied
+    }
+    return log.calls;
+}
 
 // Appends to `list` a callback that logs `name`.
 template <class List>
 void Watch(List& list, const std::string& name, Log& log) {
     list.push_back([&log, name](const auto& args) { log.Add(name, args); });
+}
+
+// Watches each list under its position: "0", "1"...
+template <class... Lists>
+void WatchNumbered(Log& log, Lists&... lists) {
+    int n = 0;
+    (Watch(lists, std::to_string(n++), log), ...);
 }
 
 // The same for a generic list, which logs `prefix` and the event type.

@@ -21,8 +21,21 @@ namespace E = Korv::Plurex::Data::Clips::Essences;
 
 namespace {
 
-std::string Bytes(const char* text, std::size_t size) {
-    return std::string(text, size);
+// Over types 0 to 3 and values -1 to 22: the setter stores exactly the values `accepted` lists for the
+// type, returning true, and otherwise keeps the field and returns false.
+template <class Value>
+void ExpectAccepted(bool (Clip::Essence::*set)(Value) noexcept, Value Clip::Essence::*field,
+                    const std::vector<int> (&accepted)[3]) {
+    for (int type = 0; type <= 3; ++type) {
+        for (int value = -1; value <= 22; ++value) {
+            Clip::Essence essence(static_cast<E::Type>(type));
+            const int before = static_cast<int>(essence.*field);
+            const bool expected =
+                type < 3 && std::count(accepted[type].begin(), accepted[type].end(), value) == 1;
+            EXPECT_EQ((essence.*set)(static_cast<Value>(value)), expected) << type << " " << value;
+            EXPECT_EQ(static_cast<int>(essence.*field), expected ? value : before) << type << " " << value;
+        }
+    }
 }
 
 }  // namespace
@@ -30,16 +43,16 @@ std::string Bytes(const char* text, std::size_t size) {
 TEST(Clip, Defaults) {
     const Clip clip;
     for (const char* text : {clip.text1, clip.text2, clip.text3, clip.text4}) {
-        EXPECT_EQ(Bytes(text, 9), std::string(8, ' ') + '\0');
+        EXPECT_EQ(std::string(text, 9), std::string(8, ' ') + '\0');
     }
     EXPECT_FALSE(clip.name.unicode);
-    EXPECT_EQ(Bytes(clip.name.text, 26), std::string(24, ' ') + std::string(2, '\0'));
-    EXPECT_EQ(Bytes(clip.varId.text, 34), std::string(32, ' ') + std::string(2, '\0'));
+    EXPECT_EQ(std::string(clip.name.text, 26), std::string(24, ' ') + std::string(2, '\0'));
+    EXPECT_EQ(std::string(clip.varId.text, 34), std::string(32, ' ') + std::string(2, '\0'));
     for (const auto& keyword : clip.keywords) {
         EXPECT_FALSE(keyword.unicode);
-        EXPECT_EQ(Bytes(keyword.text, 14), std::string(12, ' ') + std::string(2, '\0'));
+        EXPECT_EQ(std::string(keyword.text, 14), std::string(12, ' ') + std::string(2, '\0'));
     }
-    EXPECT_EQ(Bytes(reinterpret_cast<const char*>(clip.rawBytes), 8), std::string(8, '\0'));
+    EXPECT_EQ(std::string(reinterpret_cast<const char*>(clip.rawBytes), 8), std::string(8, '\0'));
     EXPECT_FALSE(clip.is3D || clip.isDual || clip.isTwinRec || clip.isLegacyTimecodeDrop);
     EXPECT_EQ(clip.attribute1, 0);
     EXPECT_EQ(clip.attribute3, static_cast<Camera>(0));
@@ -78,59 +91,26 @@ TEST(ClipEssence, ClearSetsTheTableOfItsType) {
         essence.Clear(static_cast<E::Type>(row.type));
         SCOPED_TRACE(row.type);
         EXPECT_EQ(static_cast<int>(essence.type), row.type);
-        EXPECT_EQ(essence.flag, 0);
-        EXPECT_EQ(essence.field2, 0);
-        EXPECT_EQ(essence.value1 | essence.value2 | essence.value3 | essence.value4, 0);
+        EXPECT_EQ(
+            essence.flag | essence.field2 | essence.value1 | essence.value2 | essence.value3 | essence.value4,
+            0);
         // Types without a row keep these five.
-        EXPECT_EQ(static_cast<int>(essence.metadata), row.metadata);
-        EXPECT_EQ(essence.field4, row.field4);
-        EXPECT_EQ(static_cast<int>(essence.videoCompressionType), row.video);
-        EXPECT_EQ(static_cast<int>(essence.audioCompressionType), row.audio);
-        EXPECT_EQ(static_cast<int>(essence.videoCompressionInfo), row.info);
+        EXPECT_EQ((std::vector<int>{static_cast<int>(essence.metadata), essence.field4,
+                                    static_cast<int>(essence.videoCompressionType),
+                                    static_cast<int>(essence.audioCompressionType),
+                                    static_cast<int>(essence.videoCompressionInfo)}),
+                  (std::vector<int>{row.metadata, row.field4, row.video, row.audio, row.info}));
     }
 }
 
 TEST(ClipEssence, SettersAcceptOnlyWhatSuitsTheType) {
-    // Each setter, its field, and the values each type accepts among -1 to 22.
-    struct Setter {
-        std::function<bool(Clip::Essence&, int)> set;
-        std::function<int(const Clip::Essence&)> field;
-        std::vector<std::vector<int>> accepted;
-    };
-    const Setter setters[] = {
-        {[](Clip::Essence& e, int v) { return e.Metadata(static_cast<E::Metadata>(v)); },
-         [](const Clip::Essence& e) { return static_cast<int>(e.metadata); },
-         {{0, 1, 2}, {3}, {4}}},
-        {[](Clip::Essence& e, int v) {
-             return e.VideoCompressionType(static_cast<E::VideoCompressionType>(v));
-         },
-         [](const Clip::Essence& e) { return static_cast<int>(e.videoCompressionType); },
-         {{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17}, {18}, {19, 20}}},
-        {[](Clip::Essence& e, int v) {
-             return e.AudioCompressionType(static_cast<E::AudioCompressionType>(v));
-         },
-         [](const Clip::Essence& e) { return static_cast<int>(e.audioCompressionType); },
-         {{0}, {1}, {2}}},
-        {[](Clip::Essence& e, int v) {
-             return e.VideoCompressionInfo(static_cast<E::VideoCompressionInfo>(v));
-         },
-         [](const Clip::Essence& e) { return static_cast<int>(e.videoCompressionInfo); },
-         {{0, 1, 2, 3, 4, 5, 6, 7, 8}, {9}, {10}}},
-    };
-    for (std::size_t s = 0; s < std::size(setters); ++s) {
-        const Setter& setter = setters[s];
-        for (int type = 0; type <= 3; ++type) {
-            for (int value = -1; value <= 22; ++value) {
-                Clip::Essence essence(static_cast<E::Type>(type));
-                const int before = setter.field(essence);
-                const bool expected = type < 3 && std::count(setter.accepted[type].begin(),
-                                                             setter.accepted[type].end(), value) == 1;
-                EXPECT_EQ(setter.set(essence, value), expected) << s << " " << type << " " << value;
-                EXPECT_EQ(setter.field(essence), expected ? value : before)
-                    << s << " " << type << " " << value;
-            }
-        }
-    }
+    ExpectAccepted(&Clip::Essence::Metadata, &Clip::Essence::metadata, {{0, 1, 2}, {3}, {4}});
+    ExpectAccepted(&Clip::Essence::VideoCompressionType, &Clip::Essence::videoCompressionType,
+                   {{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17}, {18}, {19, 20}});
+    ExpectAccepted(&Clip::Essence::AudioCompressionType, &Clip::Essence::audioCompressionType,
+                   {{0}, {1}, {2}});
+    ExpectAccepted(&Clip::Essence::VideoCompressionInfo, &Clip::Essence::videoCompressionInfo,
+                   {{0, 1, 2, 3, 4, 5, 6, 7, 8}, {9}, {10}});
 }
 
 TEST(ClipEssence, EqualityReadsTheFlagAsABoolean) {
@@ -154,10 +134,10 @@ TEST(ClipEssence, EqualityReadsTheFlagAsABoolean) {
         [](Clip::Essence& e) { e.value3 = 1; },
         [](Clip::Essence& e) { e.value4 = 1; },
     };
-    for (std::size_t i = 0; i < std::size(changes); ++i) {
+    for (const auto& change : changes) {
         Clip::Essence changed(E::Type::LongGop);
-        changes[i](changed);
-        EXPECT_FALSE(changed == Clip::Essence(E::Type::LongGop)) << i;
+        change(changed);
+        EXPECT_FALSE(changed == Clip::Essence(E::Type::LongGop)) << &change - changes;
     }
 }
 
@@ -200,11 +180,11 @@ TEST(Clip, EqualityLeavesOutFourFieldsAndReadsAttribute1AsABoolean) {
         [](Clip& c) { c.value64 = 0; },
         [](Clip& c) { c.essences[2].value4 = 1; },
     };
-    for (std::size_t i = 0; i < std::size(changes); ++i) {
+    for (const auto& change : changes) {
         Clip changed;
-        changes[i](changed);
-        EXPECT_FALSE(changed == base) << i;
-        EXPECT_TRUE(changed != base) << i;
+        change(changed);
+        EXPECT_FALSE(changed == base) << &change - changes;
+        EXPECT_TRUE(changed != base) << &change - changes;
     }
     // "AB" then NULs differs from "AB" then spaces; bytes after the NUL do not count.
     Clip nul, spaces, tail;

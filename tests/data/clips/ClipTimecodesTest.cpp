@@ -113,15 +113,6 @@ TEST(ClipTimecodes, PositionSettersCountFromTheInPosition) {
     EXPECT_EQ(Outcome([&] { pal.OutBoundTodTimecode(TimeCode(r50, 10)); }), IncompatibleMessage);
 }
 
-TEST(ClipTimecodes, SameStandardChangesNothing) {
-    Clip clip = WithStandard(VideoStandard::Ntsc);
-    clip.inBoundTodTimecode = TimeCode(Rate(30, 1), 77, true, 1);
-    clip.isLegacyTimecodeDrop = true;
-    const Clip before = clip;
-    clip.VideoStandard(VideoStandard::Ntsc);
-    EXPECT_TRUE(clip == before);
-}
-
 TEST(ClipTimecodes, NewStandardRebuildsDateTimeAndFrame) {
     Clip clip;
     clip.InBoundTodTimecode(Build(2024, 2, 29, 13, 45, 30, 42, r50, false, 1));
@@ -166,9 +157,14 @@ TEST(ClipTimecodes, RebuildNeverThrows) {
     EXPECT_EQ(odd.inBoundTodTimecode, TimeCode(r50, 0));
 }
 
-TEST(ClipTimecodes, PalClearsTheLegacyDropFlag) {
+// Only a change of standard rebuilds; only Pal clears the legacy drop flag.
+TEST(ClipTimecodes, SameStandardChangesNothingAndPalClearsTheLegacyDropFlag) {
     Clip clip = WithStandard(VideoStandard::Ntsc);
+    clip.inBoundTodTimecode = TimeCode(Rate(30, 1), 77, true, 1);
     clip.isLegacyTimecodeDrop = true;
+    const Clip before = clip;
+    clip.VideoStandard(VideoStandard::Ntsc);
+    EXPECT_TRUE(clip == before);
     clip.VideoStandard(VideoStandard::Unknown);
     EXPECT_TRUE(clip.isLegacyTimecodeDrop);
     clip.VideoStandard(VideoStandard::Pal);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
 #include <ctime>
 #include <limits>
@@ -46,9 +47,7 @@ TEST(TimeCodeFields, SplitIsTheInverseOfTheBuilder) {
             if (i < 4000) {
                 count = i < 2000 ? i * 17 : last - (i - 2000) * 13;
             } else {
-                seed ^= seed << 13;
-                seed ^= seed >> 7;
-                seed ^= seed << 17;
+                seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17;
                 count = static_cast<long long>(seed % static_cast<std::uint64_t>(last + 1));
             }
             const TimeCode original(rate, count, kind.drop, 3);
@@ -73,13 +72,11 @@ TEST(TimeCodeFields, AgreesWithGmtime) {
         const std::time_t time = static_cast<std::time_t>(second - Epoch1900);
         std::tm tm{};
         ASSERT_NE(gmtime_r(&time, &tm), nullptr);
-        EXPECT_EQ(fields.year, tm.tm_year + 1900) << second;
-        EXPECT_EQ(fields.month, tm.tm_mon + 1) << second;
-        EXPECT_EQ(fields.day, tm.tm_mday) << second;
-        EXPECT_EQ(fields.hour, tm.tm_hour) << second;
-        EXPECT_EQ(fields.minute, tm.tm_min) << second;
-        EXPECT_EQ(fields.second, tm.tm_sec) << second;
-        EXPECT_EQ(fields.frame, 49);
+        EXPECT_EQ(
+            (std::array{fields.year, fields.month, fields.day, fields.hour, fields.minute, fields.second,
+                        fields.frame}),
+            (std::array{tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday, tm.tm_hour, tm.tm_min, tm.tm_sec, 49}))
+            << second;
     }
 }
 
