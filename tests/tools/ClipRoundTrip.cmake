@@ -1,8 +1,8 @@
-# cmake -DTOOL=... -DEXAMPLES=... -DWORK=... -P ClipRoundTrip.cmake
+# cmake -DTOOL=... [-DRUNNER=emulator] -DEXAMPLES=... -DWORK=... -P ClipRoundTrip.cmake
 # The example records are what encode makes of examples/clip.json; decode --json and encode give each
 # back byte for byte, also when the record sits at an offset inside a larger file.
 function(run)
-    execute_process(COMMAND ${TOOL} ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+    execute_process(COMMAND ${RUNNER} ${TOOL} ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
     if(NOT status EQUAL 0)
         message(FATAL_ERROR "plurex ${ARGN}: status ${status}\n${err}")
     endif()

@@ -26,5 +26,5 @@ plurex_add_tool_test(clip.encode.year ARGS clip encode ${inputs}/year.json -o /d
 plurex_add_tool_test(clip.encode.usage ARGS clip encode ${examples}/clip.json EXIT 2)
 
 add_test(NAME tool.clip.round-trip
-    COMMAND ${CMAKE_COMMAND} "-DTOOL=$<TARGET_FILE:plurex>" -DEXAMPLES=${examples}
+    COMMAND ${CMAKE_COMMAND} "-DTOOL=$<TARGET_FILE:plurex>" "-DRUNNER=${CMAKE_CROSSCOMPILING_EMULATOR}" -DEXAMPLES=${examples}
             -DWORK=${CMAKE_CURRENT_BINARY_DIR}/clip-round-trip -P ${CMAKE_CURRENT_SOURCE_DIR}/ClipRoundTrip.cmake)

@@ -1,5 +1,6 @@
-# cmake -DTOOL=... -DEXIT=... [-DSTDOUT=regex] [-DSTDERR=regex] [-DSTDIN=file] -P RunTool.cmake -- ARGS...
-# Runs TOOL with ARGS and checks its exit status and outputs.
+# cmake -DTOOL=... [-DRUNNER=emulator] -DEXIT=... [-DSTDOUT=regex] [-DSTDERR=regex] [-DSTDIN=file]
+#       -P RunTool.cmake -- ARGS...
+# Runs TOOL with ARGS (through RUNNER when given) and checks its exit status and outputs.
 set(args)
 set(collect FALSE)
 math(EXPR last "${CMAKE_ARGC} - 1")
@@ -14,7 +15,7 @@ set(input_args)
 if(STDIN)
     set(input_args INPUT_FILE ${STDIN})
 endif()
-execute_process(COMMAND ${TOOL} ${args} ${input_args}
+execute_process(COMMAND ${RUNNER} ${TOOL} ${args} ${input_args}
     RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
 set(failed FALSE)
 if(NOT status STREQUAL EXIT)

@@ -8,8 +8,8 @@ plurex_add_tool_test(timecode.check.drop ARGS timecode check 1900-01-01 00:01:00
     STDOUT "^valid\ntotal sample 1800\n$")
 # RunTool.cmake hands its arguments on as a CMake list, which cannot carry a ';': this one goes through sh.
 add_test(NAME tool.timecode.check.semicolon
-    COMMAND sh -c "test \"$(\"$0\" timecode check 1900-01-02 '00:01:00$<SEMICOLON>04' --rate 60)\" = \"$1\""
-            $<TARGET_FILE:plurex> "valid\ntotal sample 5182416")
+    COMMAND sh -c "expected=\"$1\"; shift; test \"$(\"$@\" timecode check 1900-01-02 '00:01:00$<SEMICOLON>04' --rate 60)\" = \"$expected\""
+            sh "valid\ntotal sample 5182416" ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:plurex>)
 plurex_add_tool_test(timecode.check.dropped ARGS timecode check 1900-01-01 00:01:00:01 --rate 30 --drop EXIT 1
     STDERR "^In dropped TimeCode, this value doesn't exist 1:0.1\n$")
 plurex_add_tool_test(timecode.check.drop-rate ARGS timecode check 1900-01-01 00:00:05:00 --rate 25 --drop EXIT 1
