@@ -3,6 +3,7 @@
 // Every public header of the library.
 
 #include "PlurexData/Export.h"
+#include "PlurexData/Version.h"
 
 #include "PlurexData/channels/AbsoluteBoundary.h"
 #include "PlurexData/channels/Boundary.h"

@@ -29,3 +29,7 @@ plurex_add_tool_test(umid.macro ARGS umid @PLS042!
 plurex_add_tool_test(umid.black.json ARGS --json umid @BLKCLP!
     STDOUT "\"black\": true,.*\"edit_number\": -1,.*\"pattern\": true")
 plurex_add_tool_test(usage ARGS frobnicate EXIT 2)
+
+string(REPLACE "." "\\." version_pattern "${PROJECT_VERSION}")
+plurex_add_tool_test(version ARGS --version
+    STDOUT "^plurex ${version_pattern}\nlibKorv\\.PlurexData ${version_pattern}\n$")

@@ -3,14 +3,23 @@
 #include "Commands.h"
 #include "Output.h"
 
+#include "PlurexData/Version.h"
+
 #include <exception>
 #include <iostream>
+#include <string>
 
 int main(int argc, char** argv) {
     CLI::App app{"Make, read and check the identifiers, records and texts that PlurexData devices exchange.",
                  "plurex"};
     PlurexTool::Options options;
     app.add_flag("--json", options.json, "Print structured output as JSON");
+    // The library's version is the loaded shared object's, which may differ from the headers' the
+    // tool was built with.
+    app.set_version_flag("--version", [] {
+        return std::string("plurex ") + PLUREXDATA_VERSION_STRING + "\nlibKorv.PlurexData " +
+               Korv::Plurex::Version();
+    });
     app.require_subcommand(1);
     app.fallthrough();
 
