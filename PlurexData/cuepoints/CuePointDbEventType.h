@@ -4,7 +4,7 @@
 
 namespace Korv::Plurex::BusinessObjects::CuePoints {
 
-// What changed in the cue point store.
+/// What changed in the cue point store.
 enum class CuePointDbEventType : std::int32_t {
     CuePointAdded = 1,
     CuePointRemoved = 2,

@@ -7,7 +7,7 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// The audio tracks a clip carries.
+/// The audio tracks a clip carries.
 enum class AudioConfiguration : std::int32_t {
     NoAudio = 0,
     Mono = 1,
@@ -20,10 +20,10 @@ enum class AudioConfiguration : std::int32_t {
     Unknown = 8
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(AudioConfiguration value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); AudioConfiguration::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); AudioConfiguration::Unknown for any
+/// other text.
 PLUREXDATA_API AudioConfiguration ToAudioConfiguration(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

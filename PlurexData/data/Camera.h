@@ -7,8 +7,8 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// The camera letter of a clip. There is no value 0, and the letters jump from L to X (cameras M to W
-// do not exist): both kept for compatibility with stored clips.
+/// The camera letter of a clip. There is no value 0, and the letters jump from L to X (cameras M to W
+/// do not exist): both kept for compatibility with stored clips.
 enum class Camera : std::int32_t {
     A = 1,
     B = 2,
@@ -28,9 +28,9 @@ enum class Camera : std::int32_t {
     Unknown = 16
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(Camera value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); Camera::Unknown for any other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); Camera::Unknown for any other text.
 PLUREXDATA_API Camera ToCamera(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

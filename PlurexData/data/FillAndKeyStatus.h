@@ -7,13 +7,13 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// Whether a clip is the fill or the key of a fill-and-key pair.
+/// Whether a clip is the fill or the key of a fill-and-key pair.
 enum class FillAndKeyStatus : std::int32_t { None = 0, Fill = 1, Key = 2, Unknown = 3 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(FillAndKeyStatus value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); FillAndKeyStatus::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); FillAndKeyStatus::Unknown for any other
+/// text.
 PLUREXDATA_API FillAndKeyStatus ToFillAndKeyStatus(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

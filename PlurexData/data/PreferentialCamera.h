@@ -7,13 +7,13 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// Whether the camera of a clip is the main or a secondary angle.
+/// Whether the camera of a clip is the main or a secondary angle.
 enum class PreferentialCamera : std::int32_t { None = 0, Main = 1, Secondary = 2, Unknown = 3 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(PreferentialCamera value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); PreferentialCamera::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); PreferentialCamera::Unknown for any
+/// other text.
 PLUREXDATA_API PreferentialCamera ToPreferentialCamera(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -7,12 +7,12 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// The operator's rating of a clip.
+/// The operator's rating of a clip.
 enum class Rating : std::int32_t { None = 0, Poor = 1, Good = 2, Best = 3, Unknown = 4 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(Rating value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); Rating::Unknown for any other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); Rating::Unknown for any other text.
 PLUREXDATA_API Rating ToRating(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

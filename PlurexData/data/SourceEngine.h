@@ -7,12 +7,13 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// The engine that produced a clip.
+/// The engine that produced a clip.
 enum class SourceEngine : std::int32_t { None = 0, EditRec = 1, Timeline = 2, Derush = 3, Unknown = 4 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(SourceEngine value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); SourceEngine::Unknown for any other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); SourceEngine::Unknown for any
+/// other text.
 PLUREXDATA_API SourceEngine ToSourceEngine(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -14,26 +14,29 @@
 
 namespace Korv::Plurex::Data {
 
-// A two-way table between the values of an enumeration and their names. The reverse map is keyed
-// by pointers to the names stored in the forward map, so each name is held once; neither map
-// changes after construction, which keeps those pointers valid.
+/// A two-way table between the values of an enumeration and their names. The reverse map is keyed
+/// by pointers to the names stored in the forward map, so each name is held once; neither map
+/// changes after construction, which keeps those pointers valid.
 template <class T>
 class StringAssociation {
 public:
+    /// One row of the table: a value and its name.
     using Row = std::pair<const T, const std::string>;
 
-    // Orders values by their underlying integer.
+    /// Orders values by their underlying integer.
     struct ValueLess {
+        /// Whether `left`'s underlying integer is below `right`'s.
         bool operator()(const T& left, const T& right) const noexcept {
             using Underlying = std::underlying_type_t<T>;
             return static_cast<Underlying>(left) < static_cast<Underlying>(right);
         }
     };
 
-    // Byte-wise order of the pointed-to names (unsigned bytes, the shorter of two names sharing a
-    // prefix first), the order std::string::compare gives. Eight bytes at a time, inline: names
-    // are short, and a call to memcmp would cost more than the comparison.
+    /// Byte-wise order of the pointed-to names (unsigned bytes, the shorter of two names sharing a
+    /// prefix first), the order std::string::compare gives. Eight bytes at a time, inline: names
+    /// are short, and a call to memcmp would cost more than the comparison.
     struct NameLess {
+        /// Whether `*left` comes before `*right`.
         bool operator()(const std::string* left, const std::string* right) const noexcept {
             const std::size_t leftSize = left->size();
             const std::size_t rightSize = right->size();
@@ -56,8 +59,8 @@ public:
             return leftSize < rightSize;
         }
 
-        // The first eight bytes of `name` as a number, zero-padded: a < b between the heads of two
-        // names implies a < b between the names, so most comparisons end on the heads alone.
+        /// The first eight bytes of `name` as a number, zero-padded: a < b between the heads of two
+        /// names implies a < b between the names, so most comparisons end on the heads alone.
         static std::uint64_t Head(const std::string& name) noexcept {
             const std::size_t size = name.size();
             const char* bytes = name.data();
@@ -77,7 +80,7 @@ public:
         }
 
     private:
-        // Eight (or four) bytes as a number whose order is the bytes' order.
+        /// Eight (or four) bytes as a number whose order is the bytes' order.
         static std::uint64_t Word(const char* bytes) noexcept {
             std::uint64_t word;
             std::memcpy(&word, bytes, sizeof word);
@@ -101,16 +104,17 @@ public:
         }
     };
 
+    /// The rows by ascending value, as GetNames gives them.
     using Names = std::map<T, std::string, ValueLess>;
 
-    // The rows in order; the first row for a value wins, and where values share a name the lower
-    // value is the one that name reads back to. `defaultValue` stands for any unknown value or name.
+    /// The rows in order; the first row for a value wins, and where values share a name the lower
+    /// value is the one that name reads back to. `defaultValue` stands for any unknown value or name.
     StringAssociation(std::initializer_list<Row> rows, const T& defaultValue) : StringAssociation(rows) {
         defaultValue_ = defaultValue;
         hasDefault_ = true;
     }
 
-    // A table without a default: unknown values and names throw std::out_of_range.
+    /// A table without a default: unknown values and names throw std::out_of_range.
     explicit StringAssociation(std::initializer_list<Row> rows) : defaultValue_(), hasDefault_(false) {
         for (const Row& row : rows) {
             typeToString_.insert(row);
@@ -124,12 +128,12 @@ public:
         }
     }
 
-    // The reverse map points into this object.
+    /// The reverse map points into this object.
     StringAssociation(const StringAssociation&) = delete;
     StringAssociation& operator=(const StringAssociation&) = delete;
 
-    // The name of `value`; for an unknown value the default's name. Throws std::out_of_range:
-    // "map::at" when the default has no row, "Unknown value" when there is no default.
+    /// The name of `value`; for an unknown value the default's name. Throws std::out_of_range:
+    /// "map::at" when the default has no row, "Unknown value" when there is no default.
     const std::string& ToString(T value) const {
         const auto found = typeToString_.find(value);
         if (found != typeToString_.end()) {
@@ -146,8 +150,8 @@ public:
         return fallback->second;
     }
 
-    // The value named exactly `text` (case-sensitive, no trimming); for any other text the default.
-    // Without a default, throws std::out_of_range("Unknown value : " + text).
+    /// The value named exactly `text` (case-sensitive, no trimming); for any other text the default.
+    /// Without a default, throws std::out_of_range("Unknown value : " + text).
     T ToType(const std::string& text) const {
         const Key probe = MakeKey(text, T());
         const auto found = std::lower_bound(stringToType_.begin(), stringToType_.end(), probe, KeyLess());
@@ -160,21 +164,23 @@ public:
         return defaultValue_;
     }
 
+    /// Whether the table was made with a default value.
     bool HasDefault() const noexcept {
         return hasDefault_;
     }
+    /// The default value; a value-initialised T for a table without one.
     const T& GetDefault() const noexcept {
         return defaultValue_;
     }
-    // Every row, by ascending value.
+    /// Every row, by ascending value.
     const Names& GetNames() const noexcept {
         return typeToString_;
     }
 
 private:
-    // One entry of the reverse map: the pointer to the name, with the name's head and size kept
-    // beside it so that a lookup reads the pointed-to name only where two heads are equal and
-    // both names are longer than a head.
+    /// One entry of the reverse map: the pointer to the name, with the name's head and size kept
+    /// beside it so that a lookup reads the pointed-to name only where two heads are equal and
+    /// both names are longer than a head.
     struct Key {
         std::uint64_t head;
         std::size_t size;
@@ -182,9 +188,9 @@ private:
         T value;
     };
 
-    // NameLess on the names, decided on the heads where they differ. Equal heads mean equal first
-    // eight bytes when both names have that many; otherwise the shorter name is a prefix of the
-    // longer (whose missing bytes were zero-padded) and comes first.
+    /// NameLess on the names, decided on the heads where they differ. Equal heads mean equal first
+    /// eight bytes when both names have that many; otherwise the shorter name is a prefix of the
+    /// longer (whose missing bytes were zero-padded) and comes first.
     struct KeyLess {
         bool operator()(const Key& left, const Key& right) const noexcept {
             if (left.head != right.head) {
@@ -196,7 +202,7 @@ private:
             return NameLess()(left.name, right.name);
         }
 
-        // Whether the two are the same name, in one pass.
+        /// Whether the two are the same name, in one pass.
         static bool Same(const Key& left, const Key& right) noexcept {
             return left.head == right.head && left.size == right.size &&
                    (left.size <= 8 ||
@@ -204,7 +210,7 @@ private:
         }
     };
 
-    // Out of line, so that the lookup stays small enough to be inlined.
+    /// Out of line, so that the lookup stays small enough to be inlined.
     [[noreturn]] __attribute__((noinline, cold)) static void ThrowUnknownName(const std::string& text) {
         throw std::out_of_range("Unknown value : " + text);
     }
@@ -214,8 +220,8 @@ private:
     }
 
     Names typeToString_;
-    // The reverse map, ordered by name and held as a sorted array: a lookup is a binary search over
-    // a few contiguous entries rather than a walk through tree nodes.
+    /// The reverse map, ordered by name and held as a sorted array: a lookup is a binary search over
+    /// a few contiguous entries rather than a walk through tree nodes.
     std::vector<Key> stringToType_;
     T defaultValue_;
     bool hasDefault_;

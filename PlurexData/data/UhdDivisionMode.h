@@ -7,13 +7,13 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// How an ultra-high-definition picture is divided over its links.
+/// How an ultra-high-definition picture is divided over its links.
 enum class UhdDivisionMode : std::int32_t { None = 0, Square = 1, SampleInterleave = 2, Unknown = 3 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(UhdDivisionMode value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); UhdDivisionMode::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); UhdDivisionMode::Unknown for any other
+/// text.
 PLUREXDATA_API UhdDivisionMode ToUhdDivisionMode(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -7,8 +7,8 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// Protection bits, one per user; All is the union of the low 16 bits. Only the single values have
-// names: a combination prints as "Unknown" and no name reads back as one.
+/// Protection bits, one per user; All is the union of the low 16 bits. Only the single values have
+/// names: a combination prints as "Unknown" and no name reads back as one.
 enum class UserProtect : std::int32_t {
     None = 0x0,
     Dorsel = 0x1,
@@ -24,9 +24,9 @@ enum class UserProtect : std::int32_t {
     Unknown = 0x10000
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(UserProtect value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); UserProtect::Unknown for any other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); UserProtect::Unknown for any other text.
 PLUREXDATA_API UserProtect ToUserProtect(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

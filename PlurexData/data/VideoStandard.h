@@ -7,13 +7,13 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// The video standard of a clip; it fixes the clip rate (Pal 50/1, any other value 60/1).
+/// The video standard of a clip; it fixes the clip rate (Pal 50/1, any other value 60/1).
 enum class VideoStandard : std::int32_t { Pal = 0, Ntsc = 1, Unknown = 2 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(VideoStandard value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); VideoStandard::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); VideoStandard::Unknown for any other
+/// text.
 PLUREXDATA_API VideoStandard ToVideoStandard(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -7,13 +7,13 @@
 
 namespace Korv::Plurex::Data::Clips {
 
-// The colour gamut of the video.
+/// The colour gamut of the video.
 enum class WideColorGamut : std::int32_t { Rec709 = 0, Rec2020 = 1, Unknown = 2 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(WideColorGamut value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); WideColorGamut::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); WideColorGamut::Unknown for any other
+/// text.
 PLUREXDATA_API WideColorGamut ToWideColorGamut(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

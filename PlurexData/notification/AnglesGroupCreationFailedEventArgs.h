@@ -8,9 +8,10 @@
 
 namespace Korv::Plurex::Notification {
 
-// An angles group creation that failed, with the server's result and error code.
+/// An angles group creation that failed, with the server's result and error code.
 class PLUREXDATA_API AnglesGroupCreationFailedEventArgs : public AnglesGroupCreationEventArgs {
 public:
+    /// The result and error code come between the GUID and the arguments of AnglesGroupCreationEventArgs.
     AnglesGroupCreationFailedEventArgs(std::uint32_t commandNumber, const Data::Guid& commandGuid,
                                        Data::OperationResult result, std::int16_t errorCode,
                                        std::uint32_t value, Data::Clips::Angle firstAngle,
@@ -18,7 +19,9 @@ public:
                                        const std::vector<Data::Clips::Angle>& angles);
     ~AnglesGroupCreationFailedEventArgs() override;
 
+    /// The server's result.
     Data::OperationResult GetResult() const noexcept { return result_; }
+    /// The server's error code.
     std::int16_t GetErrorCode() const noexcept { return errorCode_; }
 
 private:

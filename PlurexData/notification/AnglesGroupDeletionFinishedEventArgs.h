@@ -7,9 +7,10 @@
 
 namespace Korv::Plurex::Notification {
 
-// An angles group deletion that completed.
+/// An angles group deletion that completed.
 class PLUREXDATA_API AnglesGroupDeletionFinishedEventArgs : public AnglesGroupDeletionEventArgs {
 public:
+    /// The arguments of AnglesGroupDeletionEventArgs, passed on.
     AnglesGroupDeletionFinishedEventArgs(std::uint32_t commandNumber, const Data::Guid& commandGuid,
                                          std::uint32_t value);
     ~AnglesGroupDeletionFinishedEventArgs() override;

@@ -8,16 +8,18 @@
 
 namespace Korv::Plurex::Notification {
 
-// One queued channel status event: its shared arguments and its type.
+/// One queued channel status event: its shared arguments and its type.
 struct PLUREXDATA_API ChannelStatusEvent {
-    // Selects the specific callback list and so the class the producer guarantees for the arguments.
-    // Any other 32-bit value is carried too and reaches only the generic callbacks.
+    /// Selects the specific callback list and so the class the producer guarantees for the arguments.
+    /// Any other 32-bit value is carried too and reaches only the generic callbacks.
     enum class Type : std::int32_t {
-        RecorderStateChanged = 0,  // RecorderStateChangedEventArgs
-        PlayerStateChanged = 1,    // PlayerStateChangedEventArgs
+        RecorderStateChanged = 0,  ///< RecorderStateChangedEventArgs
+        PlayerStateChanged = 1,    ///< PlayerStateChangedEventArgs
     };
 
+    /// The arguments, shared by the producer and every callback; SendEvent refuses null.
     std::shared_ptr<ChannelStatusEventArgs> args;
+    /// The type the event was posted under, any 32-bit value.
     Type type{};
 };
 

@@ -8,9 +8,11 @@
 
 namespace Korv::Plurex::Notification {
 
-// A clip creation that failed, with the server's result and error code.
+/// A clip creation that failed, with the server's result and error code.
 class PLUREXDATA_API ClipCreationFailedEventArgs : public ClipCreationEventArgs {
 public:
+    /// The six common fields, the result and error code, then the clips and types as ClipCreationEventArgs
+    /// takes them.
     ClipCreationFailedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
                                 std::uint32_t thirdValue, std::uint16_t fourthValue,
                                 const Data::Guid& commandGuid, long long value64,
@@ -19,7 +21,9 @@ public:
                                 CreationType creationType, NetworkType networkType);
     ~ClipCreationFailedEventArgs() override;
 
+    /// The server's result.
     Data::OperationResult GetResult() const noexcept { return result_; }
+    /// The server's error code.
     std::int16_t GetErrorCode() const noexcept { return errorCode_; }
 
 private:

@@ -8,9 +8,11 @@
 
 namespace Korv::Plurex::Notification {
 
-// A clip deletion that failed: the server's result and error code, a third 8-bit value and two flags.
+/// A clip deletion that failed: the server's result and error code, a third 8-bit value and two flags.
 class PLUREXDATA_API ClipDeletionFailedEventArgs : public ClipDeletionEventArgs {
 public:
+    /// The six common fields, the result and error code, the clip and the base's two 8-bit
+    /// values, then the third 8-bit value and the two flags.
     ClipDeletionFailedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
                                 std::uint32_t thirdValue, std::uint16_t fourthValue,
                                 const Data::Guid& commandGuid, long long value64,
@@ -20,10 +22,15 @@ public:
                                 bool secondFlag);
     ~ClipDeletionFailedEventArgs() override;
 
+    /// The server's result.
     Data::OperationResult GetResult() const noexcept { return result_; }
+    /// The server's error code.
     std::int16_t GetErrorCode() const noexcept { return errorCode_; }
+    /// The third 8-bit value, carried as given.
     std::uint8_t GetThirdByte() const noexcept { return thirdByte_; }
+    /// The first flag, carried as given.
     bool GetFirstFlag() const noexcept { return firstFlag_; }
+    /// The second flag, carried as given.
     bool GetSecondFlag() const noexcept { return secondFlag_; }
 
 private:

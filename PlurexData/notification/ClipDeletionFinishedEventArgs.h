@@ -7,9 +7,10 @@
 
 namespace Korv::Plurex::Notification {
 
-// A clip deletion that completed.
+/// A clip deletion that completed.
 class PLUREXDATA_API ClipDeletionFinishedEventArgs : public ClipDeletionEventArgs {
 public:
+    /// The arguments of ClipDeletionEventArgs, passed on.
     ClipDeletionFinishedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
                                   std::uint32_t thirdValue, std::uint16_t fourthValue,
                                   const Data::Guid& commandGuid, long long value64,

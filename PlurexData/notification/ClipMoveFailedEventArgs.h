@@ -8,9 +8,10 @@
 
 namespace Korv::Plurex::Notification {
 
-// A clip move that failed, with the server's result and error code.
+/// A clip move that failed, with the server's result and error code.
 class PLUREXDATA_API ClipMoveFailedEventArgs : public ClipMoveEventArgs {
 public:
+    /// The six common fields, the result and error code, then both clips.
     ClipMoveFailedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
                             std::uint32_t thirdValue, std::uint16_t fourthValue,
                             const Data::Guid& commandGuid, long long value64, Data::OperationResult result,
@@ -18,7 +19,9 @@ public:
                             const Data::Clips::Clip& secondClip);
     ~ClipMoveFailedEventArgs() override;
 
+    /// The server's result.
     Data::OperationResult GetResult() const noexcept { return result_; }
+    /// The server's error code.
     std::int16_t GetErrorCode() const noexcept { return errorCode_; }
 
 private:

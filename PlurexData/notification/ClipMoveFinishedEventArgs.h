@@ -7,9 +7,10 @@
 
 namespace Korv::Plurex::Notification {
 
-// A clip move that completed.
+/// A clip move that completed.
 class PLUREXDATA_API ClipMoveFinishedEventArgs : public ClipMoveEventArgs {
 public:
+    /// The arguments of ClipMoveEventArgs, passed on.
     ClipMoveFinishedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
                               std::uint32_t thirdValue, std::uint16_t fourthValue,
                               const Data::Guid& commandGuid, long long value64,

@@ -7,14 +7,16 @@
 
 namespace Korv::Plurex::Notification {
 
-// An update of many clips at once, with their count.
+/// An update of many clips at once, with their count.
 class PLUREXDATA_API MassClipUpdateEventArgs : public ClipCommandEventArgs {
 public:
+    /// The six common fields, then the count.
     MassClipUpdateEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
                             std::uint32_t thirdValue, std::uint16_t fourthValue,
                             const Data::Guid& commandGuid, long long value64, std::uint32_t count);
     ~MassClipUpdateEventArgs() override;
 
+    /// The number of clips.
     std::uint32_t GetCount() const noexcept { return count_; }
 
 private:

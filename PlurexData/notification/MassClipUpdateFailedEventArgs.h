@@ -8,16 +8,19 @@
 
 namespace Korv::Plurex::Notification {
 
-// A mass update that failed, with the server's result and error code.
+/// A mass update that failed, with the server's result and error code.
 class PLUREXDATA_API MassClipUpdateFailedEventArgs : public MassClipUpdateEventArgs {
 public:
+    /// The six common fields, the result and error code, then the count.
     MassClipUpdateFailedEventArgs(std::uint32_t commandNumber, RequestSource requestSource,
                                   std::uint32_t thirdValue, std::uint16_t fourthValue,
                                   const Data::Guid& commandGuid, long long value64,
                                   Data::OperationResult result, std::int16_t errorCode, std::uint32_t count);
     ~MassClipUpdateFailedEventArgs() override;
 
+    /// The server's result.
     Data::OperationResult GetResult() const noexcept { return result_; }
+    /// The server's error code.
     std::int16_t GetErrorCode() const noexcept { return errorCode_; }
 
 private:

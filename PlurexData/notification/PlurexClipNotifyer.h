@@ -37,38 +37,44 @@
 
 namespace Korv::Plurex::Notification {
 
-// Carries clip events from producers on any thread to callbacks run on the thread that calls Run.
-// Two queues (commands and status), each guarded by its own mutex, held only to append or remove one
-// record and never while a callback runs, so a callback may post to the same notifier.
-//
-// Clients register by appending to the public callback lists, before or between calls to Run: the
-// lists are not guarded and must not change while Run may be running (a callback included).
+/// Carries clip events from producers on any thread to callbacks run on the thread that calls Run.
+/// Two queues (commands and status), each guarded by its own mutex, held only to append or remove one
+/// record and never while a callback runs, so a callback may post to the same notifier.
+///
+/// Clients register by appending to the public callback lists, before or between calls to Run: the
+/// lists are not guarded and must not change while Run may be running (a callback included).
 class PLUREXDATA_API PlurexClipNotifyer {
 public:
+    /// A specific list: each callback receives the arguments as class `Args`.
     template <class Args>
     using Callbacks = std::vector<std::function<void(const Args&)>>;
+    /// The generic command list: each callback receives the type and the arguments as the base class.
     using CommandCallbacks =
         std::vector<std::function<void(ClipCommandEvent::Type, const ClipCommandEventArgs&)>>;
+    /// The generic status list: each callback receives the type and the arguments as the base class.
     using StatusCallbacks =
         std::vector<std::function<void(ClipStatusEvent::Type, const ClipStatusEventArgs&)>>;
 
     PlurexClipNotifyer();
     PlurexClipNotifyer(const PlurexClipNotifyer&) = delete;
     PlurexClipNotifyer& operator=(const PlurexClipNotifyer&) = delete;
-    // Events still queued are dropped with their arguments.
+    /// Events still queued are dropped with their arguments.
     ~PlurexClipNotifyer();
 
-    // Appends {args, type} at the back of its queue; safe from any number of threads. The producer may
-    // drop its own reference at once. Null arguments throw std::invalid_argument("Null EventArgs");
-    // a failed lock throws std::system_error. The queue is unchanged by either.
+    /// Appends {args, type} at the back of its queue; safe from any number of threads. The producer may
+    /// drop its own reference at once. Null arguments throw std::invalid_argument("Null EventArgs");
+    /// a failed lock throws std::system_error. The queue is unchanged by either.
+    ///@{
     void SendEvent(std::shared_ptr<ClipCommandEventArgs> args, ClipCommandEvent::Type type);
     void SendEvent(std::shared_ptr<ClipStatusEventArgs> args, ClipStatusEvent::Type type);
+    ///@}
 
-    // Delivers the front command event, if any, then the front status event, if any: first to the
-    // specific list of its type (none for values outside the table), then to the generic list, each
-    // in registration order. For one consumer thread at a time. An empty callback
-    // (std::bad_function_call) or a callback's exception leaves Run at once: the event has already
-    // left its queue and is lost, and the rest of this Run is skipped.
+    /// Delivers the front command event, if any, then the front status event, if any: first to the
+    /// specific list of its type (none for values outside the table), then to the generic list, each
+    /// in registration order. For one consumer thread at a time. An empty callback
+    /// (std::bad_function_call) or a callback's exception leaves Run at once: the event has already
+    /// left its queue and is lost, and the rest of this Run is skipped. A failed lock throws
+    /// std::system_error.
     void Run();
 
 private:
@@ -80,9 +86,12 @@ private:
     std::atomic<std::size_t> statusSize_;
 
 public:
+    /// Every command event, after its specific list.
     CommandCallbacks genericCommandCallbacks;
+    /// Every status event, after its specific list.
     StatusCallbacks genericStatusCallbacks;
-    // One list per ClipCommandEvent::Type value, in the order of the values.
+    /// One list per ClipCommandEvent::Type value, in the order of the values.
+    ///@{
     Callbacks<ClipCreationEventArgs> clipCreationCallbacks;
     Callbacks<ClipCreationFinishedEventArgs> clipCreationFinishedCallbacks;
     Callbacks<ClipCreationFailedEventArgs> clipCreationFailedCallbacks;
@@ -103,7 +112,8 @@ public:
     Callbacks<AnglesGroupUpdateFailedEventArgs> anglesGroupUpdateFailedCallbacks;
     Callbacks<AnglesGroupDeletionFinishedEventArgs> anglesGroupDeletionFinishedCallbacks;
     Callbacks<AnglesGroupDeletionFailedEventArgs> anglesGroupDeletionFailedCallbacks;
-    // ClipStatusEvent::Type::RecordingRangesChanged.
+    ///@}
+    /// ClipStatusEvent::Type::RecordingRangesChanged.
     Callbacks<RecordingRangesChangedEventArgs> recordingRangesChangedCallbacks;
 };
 

@@ -17,28 +17,30 @@
 
 namespace Korv::Plurex::Notification {
 
-// Carries server events as PlurexClipNotifyer carries clip events, through a single queue: server
-// events have no command/status split. Clients register by appending to the public callback lists,
-// which must not change while Run may be running.
+/// Carries server events as PlurexClipNotifyer carries clip events, through a single queue: server
+/// events have no command/status split. Clients register by appending to the public callback lists,
+/// which must not change while Run may be running.
 class PLUREXDATA_API PlurexServerNotifyer {
 public:
+    /// A specific list: each callback receives the arguments as class `Args`.
     template <class Args>
     using Callbacks = std::vector<std::function<void(const Args&)>>;
+    /// The generic list: each callback receives the type and the arguments as the base class.
     using StatusCallbacks =
         std::vector<std::function<void(ServerStatusEvent::Type, const ServerStatusEventArgs&)>>;
 
     PlurexServerNotifyer();
     PlurexServerNotifyer(const PlurexServerNotifyer&) = delete;
     PlurexServerNotifyer& operator=(const PlurexServerNotifyer&) = delete;
-    // Events still queued are dropped with their arguments.
+    /// Events still queued are dropped with their arguments.
     ~PlurexServerNotifyer();
 
-    // Appends {args, type} at the back of the queue; safe from any number of threads. Null arguments
-    // throw std::invalid_argument("Null EventArgs"); a failed lock throws std::system_error.
+    /// Appends {args, type} at the back of the queue; safe from any number of threads. Null arguments
+    /// throw std::invalid_argument("Null EventArgs"); a failed lock throws std::system_error.
     void SendEvent(std::shared_ptr<ServerStatusEventArgs> args, ServerStatusEvent::Type type);
 
-    // At most one event: specific list, then generic list. An empty callback or a callback's
-    // exception leaves Run at once and the event is lost. For one consumer thread at a time.
+    /// At most one event: specific list, then generic list. An empty callback or a callback's
+    /// exception leaves Run at once and the event is lost. For one consumer thread at a time.
     void Run();
 
 private:
@@ -47,10 +49,14 @@ private:
     std::atomic<std::size_t> size_;
 
 public:
+    /// Every event, after its specific list.
     StatusCallbacks genericCallbacks;
+    /// One list per ServerStatusEvent::Type value, in the order of the values.
+    ///@{
     Callbacks<ServerAddedEventArgs> serverAddedCallbacks;
     Callbacks<ServerRemovedEventArgs> serverRemovedCallbacks;
     Callbacks<DisconnectedFromNetworkEventArgs> disconnectedFromNetworkCallbacks;
+    ///@}
 };
 
 }  // namespace Korv::Plurex::Notification

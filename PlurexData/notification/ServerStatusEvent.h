@@ -8,17 +8,19 @@
 
 namespace Korv::Plurex::Notification {
 
-// One queued server event: its shared arguments and its type.
+/// One queued server event: its shared arguments and its type.
 struct PLUREXDATA_API ServerStatusEvent {
-    // Selects the specific callback list and so the class the producer guarantees for the arguments.
-    // Any other 32-bit value is carried too and reaches only the generic callbacks.
+    /// Selects the specific callback list and so the class the producer guarantees for the arguments.
+    /// Any other 32-bit value is carried too and reaches only the generic callbacks.
     enum class Type : std::int32_t {
-        ServerAdded = 0,              // ServerAddedEventArgs
-        ServerRemoved = 1,            // ServerRemovedEventArgs
-        DisconnectedFromNetwork = 2,  // DisconnectedFromNetworkEventArgs
+        ServerAdded = 0,              ///< ServerAddedEventArgs
+        ServerRemoved = 1,            ///< ServerRemovedEventArgs
+        DisconnectedFromNetwork = 2,  ///< DisconnectedFromNetworkEventArgs
     };
 
+    /// The arguments, shared by the producer and every callback; SendEvent refuses null.
     std::shared_ptr<ServerStatusEventArgs> args;
+    /// The type the event was posted under, any 32-bit value.
     Type type{};
 };
 

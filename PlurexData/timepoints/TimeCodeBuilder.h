@@ -6,24 +6,26 @@
 
 namespace Korv::TimePoints {
 
-// The calendar and clock fields from which a timecode is built. The fields are kept as given; the
-// checks run when the builder is asked to validate or to build.
+/// The calendar and clock fields from which a timecode is built. The fields are kept as given; the
+/// checks run when the builder is asked to validate or to build.
 class PLUREXDATA_API TimeCodeBuilder {
 public:
+    /// Keeps the fields as given; `sample` is the frame within the second. Nothing is checked before
+    /// IsValidToBuildWithexception or Build.
     TimeCodeBuilder(int year, int month, int day, int hour, int minute, int second, int sample,
                     const Rate& rate, bool drop = false, unsigned char flag = 0) noexcept;
 
-    // True when the fields can be built into a timecode; otherwise throws std::out_of_range naming
-    // the first field that fails, in this order: year (1900 to 2261), month, day of that month,
-    // hour, minute, second, rate denominator (must be 1), sample (below the rate numerator), then
-    // for a drop-frame timecode the dropped frame numbers and the rate (30/1 or 60/1). Never false.
+    /// True when the fields can be built into a timecode; otherwise throws std::out_of_range naming
+    /// the first field that fails, in this order: year (1900 to 2261), month, day of that month,
+    /// hour, minute, second, rate denominator (must be 1), sample (below the rate numerator), then
+    /// for a drop-frame timecode the dropped frame numbers and the rate (30/1 or 60/1). Never false.
     bool IsValidToBuildWithexception() const;
 
-    // Validates as above, then counts the samples from 1 January 1900 00:00:00 (sample 0) at the
-    // rate. A drop-frame timecode leaves out the frame numbers that do not exist: 2 per minute at 30,
-    // 4 at 60, none in the minutes that are multiples of ten. The flag byte is passed on. A count
-    // that would be negative (a negative sample at the very start, or a rate that is not positive)
-    // or would not fit in 64 bits throws std::out_of_range.
+    /// Validates as above, then counts the samples from 1 January 1900 00:00:00 (sample 0) at the
+    /// rate. A drop-frame timecode leaves out the frame numbers that do not exist: 2 per minute at 30,
+    /// 4 at 60, none in the minutes that are multiples of ten. The flag byte is passed on. A count
+    /// that would be negative (a negative sample at the very start, or a rate that is not positive)
+    /// or would not fit in 64 bits throws std::out_of_range.
     TimeCode Build() const;
 
 private:

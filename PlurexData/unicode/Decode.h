@@ -5,10 +5,10 @@
 
 namespace Korv::Plurex::Unicode {
 
-// The UTF-16 step: reads one code point from the first n bytes in the chosen byte order into `out`
-// and returns the bytes used (2 or 4), or 0 when more bytes are needed. A word outside the high
-// surrogates 0xD800 to 0xDBFF is a code point by itself, a lone low surrogate included; after a high
-// surrogate the next word is taken as the low one without being tested.
+/// The UTF-16 step: reads one code point from the first n bytes in the chosen byte order into `out`
+/// and returns the bytes used (2 or 4), or 0 when more bytes are needed. A word outside the high
+/// surrogates 0xD800 to 0xDBFF is a code point by itself, a lone low surrogate included; after a high
+/// surrogate the next word is taken as the low one without being tested.
 constexpr unsigned int Decode(unsigned char const* bytes, unsigned int n, bool bigEndian,
                               CodePoint& out) noexcept {
     if (n < 2) {

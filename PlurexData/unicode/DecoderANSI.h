@@ -5,8 +5,8 @@
 
 namespace Korv::Plurex::Unicode {
 
-// A single-byte code page: every byte is a code point, the one GetCodePoint gives, so these
-// decoders never fail.
+/// A single-byte code page: every byte is a code point, the one GetCodePoint gives, so these
+/// decoders never fail.
 class PLUREXDATA_API DecoderANSI : public Decoder {
 public:
     ~DecoderANSI() override;
@@ -15,13 +15,17 @@ public:
         Decoder::Add(byte);
         Complete(GetCodePoint(byte));
     }
-    // The code point of `byte` in this code page.
+    /// The code point of `byte` in this code page.
     virtual CodePoint GetCodePoint(unsigned char byte) const noexcept = 0;
 
 protected:
+    /// One byte per code point.
     DecoderANSI() noexcept : Decoder(1) {}
+    /// Copies the state, as Decoder does.
+    ///@{
     DecoderANSI(const DecoderANSI&) = default;
     DecoderANSI& operator=(const DecoderANSI&) = default;
+    ///@}
 };
 
 }  // namespace Korv::Plurex::Unicode

@@ -5,8 +5,8 @@
 
 namespace Korv::Plurex::Unicode {
 
-// 7-bit ASCII, one byte per code point. Bytes 0x80 to 0xFF come out as code points 0x80 to 0xFF,
-// without complaint: kept on purpose for compatibility.
+/// 7-bit ASCII, one byte per code point. Bytes 0x80 to 0xFF come out as code points 0x80 to 0xFF,
+/// without complaint: kept on purpose for compatibility.
 class PLUREXDATA_API DecoderASCII final : public Decoder {
 public:
     DecoderASCII() noexcept : Decoder(1) {}

@@ -5,7 +5,7 @@
 
 namespace Korv::Plurex::Unicode {
 
-// ISO 8859-1 (code page 28591): the byte's value is the code point.
+/// ISO 8859-1 (code page 28591): the byte's value is the code point.
 class PLUREXDATA_API DecoderCodePage28591 final : public DecoderANSI {
 public:
     DecoderCodePage28591() = default;

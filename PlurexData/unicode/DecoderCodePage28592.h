@@ -5,7 +5,7 @@
 
 namespace Korv::Plurex::Unicode {
 
-// ISO 8859-2 (code page 28592): bytes below 0xA1 unchanged, 0xA1 to 0xFF by the standard's table.
+/// ISO 8859-2 (code page 28592): bytes below 0xA1 unchanged, 0xA1 to 0xFF by the standard's table.
 class PLUREXDATA_API DecoderCodePage28592 final : public DecoderANSI {
 public:
     DecoderCodePage28592() = default;
@@ -16,7 +16,7 @@ public:
     }
 
 private:
-    // The code points of bytes 0xA1 to 0xFF.
+    /// The code points of bytes 0xA1 to 0xFF.
     static const std::uint16_t table_[0x100 - 0xA1];
 };
 

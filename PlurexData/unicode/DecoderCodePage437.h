@@ -5,7 +5,7 @@
 
 namespace Korv::Plurex::Unicode {
 
-// Code page 437 (IBM PC): bytes below 0x80 unchanged, 0x80 to 0xFF by the code page's table.
+/// Code page 437 (IBM PC): bytes below 0x80 unchanged, 0x80 to 0xFF by the code page's table.
 class PLUREXDATA_API DecoderCodePage437 final : public DecoderANSI {
 public:
     DecoderCodePage437() = default;
@@ -16,7 +16,7 @@ public:
     }
 
 private:
-    // The code points of bytes 0x80 to 0xFF.
+    /// The code points of bytes 0x80 to 0xFF.
     static const std::uint16_t table_[0x80];
 };
 

@@ -6,14 +6,16 @@
 
 namespace Korv::Plurex::Unicode {
 
-// UTF-16 in the byte order chosen at construction (true: most significant byte first); no byte
-// order mark is looked for. A lone low surrogate is a code point of its own, and the word after a
-// high surrogate is taken as its low half untested (see Decode).
+/// UTF-16 in the byte order chosen at construction (true: most significant byte first); no byte
+/// order mark is looked for. A lone low surrogate is a code point of its own, and the word after a
+/// high surrogate is taken as its low half untested (see Decode).
 class PLUREXDATA_API DecoderUTF16 final : public Decoder {
 public:
+    /// Most significant byte first when `bigEndian`, else least significant first.
     explicit DecoderUTF16(bool bigEndian) noexcept : Decoder(2), bigEndian_(bigEndian) {}
     ~DecoderUTF16() override;
 
+    /// The byte order given at construction.
     bool IsBigEndian() const noexcept { return bigEndian_; }
 
     void Add(unsigned char byte) noexcept override {

@@ -6,17 +6,17 @@
 
 namespace Korv::Plurex::Unicode {
 
-// UTF-8, leniently. A sequence is as long as its first byte announces (up to 6); a byte that does not
-// fit is dropped without notice: a stray continuation byte, 0xFE and 0xFF, a new lead byte in the
-// middle of a sequence (which abandons the bytes so far) and the five- and six-byte forms (dropped
-// when the 4-byte buffer fills). Continuation bytes are not tested further, so overlong forms,
-// surrogates and values up to 0x1FFFFF come out as they are.
+/// UTF-8, leniently. A sequence is as long as its first byte announces (up to 6); a byte that does not
+/// fit is dropped without notice: a stray continuation byte, 0xFE and 0xFF, a new lead byte in the
+/// middle of a sequence (which abandons the bytes so far) and the five- and six-byte forms (dropped
+/// when the 4-byte buffer fills). Continuation bytes are not tested further, so overlong forms,
+/// surrogates and values up to 0x1FFFFF come out as they are.
 class PLUREXDATA_API DecoderUTF8 final : public Decoder {
 public:
     DecoderUTF8() noexcept : Decoder(1) {}
     ~DecoderUTF8() override;
 
-    // The length announced by the first byte of the current sequence; 0 when empty.
+    /// The length announced by the first byte of the current sequence; 0 when empty.
     unsigned char GetExpectedLength() const noexcept { return expectedLength_; }
 
     void Add(unsigned char byte) noexcept override {
@@ -47,7 +47,7 @@ public:
 private:
     static constexpr unsigned char Invalid = 255;
 
-    // The sequence length a byte announces: 0 for a continuation byte, Invalid for 0xFE and 0xFF.
+    /// The sequence length a byte announces: 0 for a continuation byte, Invalid for 0xFE and 0xFF.
     static constexpr unsigned char LengthOf(unsigned char byte) noexcept {
         if (byte < 0x80) {
             return 1;

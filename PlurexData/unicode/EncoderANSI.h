@@ -5,8 +5,8 @@
 
 namespace Korv::Plurex::Unicode {
 
-// A single-byte code page: one byte per code point, the one GetByte gives. The code pages never
-// refuse a code point; what they lack becomes "?" (0x3F).
+/// A single-byte code page: one byte per code point, the one GetByte gives. The code pages never
+/// refuse a code point; what they lack becomes "?" (0x3F).
 class PLUREXDATA_API EncoderANSI : public Encoder {
 public:
     ~EncoderANSI() override;
@@ -15,13 +15,16 @@ public:
     void Encode(CodePoint codePoint, unsigned char* out) const noexcept override {
         *out = GetByte(codePoint);
     }
-    // The byte of `codePoint` in this code page.
+    /// The byte of `codePoint` in this code page.
     virtual unsigned char GetByte(CodePoint codePoint) const noexcept = 0;
 
 protected:
     EncoderANSI() = default;
+    /// Copyable, although there is no state to copy.
+    ///@{
     EncoderANSI(const EncoderANSI&) = default;
     EncoderANSI& operator=(const EncoderANSI&) = default;
+    ///@}
 };
 
 }  // namespace Korv::Plurex::Unicode

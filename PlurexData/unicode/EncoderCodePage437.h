@@ -5,8 +5,8 @@
 
 namespace Korv::Plurex::Unicode {
 
-// Code page 437 (IBM PC): the code point itself below 128, the code page's byte for the 128
-// characters of its upper half, "?" for every other code point (negative ones included).
+/// Code page 437 (IBM PC): the code point itself below 128, the code page's byte for the 128
+/// characters of its upper half, "?" for every other code point (negative ones included).
 class PLUREXDATA_API EncoderCodePage437 final : public EncoderANSI {
 public:
     EncoderCodePage437() = default;
@@ -18,7 +18,7 @@ public:
     }
 
 private:
-    // The multi-way branch over the upper half, kept out of line.
+    /// The multi-way branch over the upper half, kept out of line.
     static unsigned char GetUpperByte(CodePoint codePoint) noexcept;
 };
 

@@ -6,15 +6,17 @@
 
 namespace Korv::Plurex::Unicode {
 
-// UTF-16 in the byte order chosen at construction (true: most significant byte first), without a
-// byte order mark. Refuses surrogates and values above 0x10FFFF (GetNbBytes 0, nothing written).
-// A negative code point passes ValidateCodePoint and, being below 0x10000 as a signed number, is
-// written as one unit holding its low 16 bits.
+/// UTF-16 in the byte order chosen at construction (true: most significant byte first), without a
+/// byte order mark. Refuses surrogates and values above 0x10FFFF (GetNbBytes 0, nothing written).
+/// A negative code point passes ValidateCodePoint and, being below 0x10000 as a signed number, is
+/// written as one unit holding its low 16 bits.
 class PLUREXDATA_API EncoderUTF16 final : public Encoder {
 public:
+    /// Most significant byte first when `bigEndian`, else least significant first.
     explicit EncoderUTF16(bool bigEndian) noexcept : bigEndian_(bigEndian) {}
     ~EncoderUTF16() override;
 
+    /// The byte order given at construction.
     bool IsBigEndian() const noexcept { return bigEndian_; }
 
     std::uint32_t GetNbBytes(CodePoint codePoint) const noexcept override {

@@ -5,13 +5,15 @@
 
 namespace Korv::Plurex::Unicode {
 
-// UTF-32 in the byte order chosen at construction (true: most significant byte first), without a
-// byte order mark. Writes whatever it is given as a 32-bit value: no validity test.
+/// UTF-32 in the byte order chosen at construction (true: most significant byte first), without a
+/// byte order mark. Writes whatever it is given as a 32-bit value: no validity test.
 class PLUREXDATA_API EncoderUTF32 final : public Encoder {
 public:
+    /// Most significant byte first when `bigEndian`, else least significant first.
     explicit EncoderUTF32(bool bigEndian) noexcept : bigEndian_(bigEndian) {}
     ~EncoderUTF32() override;
 
+    /// The byte order given at construction.
     bool IsBigEndian() const noexcept { return bigEndian_; }
 
     std::uint32_t GetNbBytes(CodePoint) const noexcept override { return 4; }

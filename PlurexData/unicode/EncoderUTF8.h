@@ -5,11 +5,11 @@
 
 namespace Korv::Plurex::Unicode {
 
-// UTF-8 (RFC 3629), refusing surrogates and values above 0x10FFFF (GetNbBytes 0, nothing written).
-//
-// A negative code point passes ValidateCodePoint; GetNbBytes then compares signed and answers 1
-// while Encode compares unsigned and writes the four-byte form (0xF0 | bits 18 and up, then three
-// continuation bytes). Both are kept on purpose for compatibility, hence the 4-byte buffer rule.
+/// UTF-8 (RFC 3629), refusing surrogates and values above 0x10FFFF (GetNbBytes 0, nothing written).
+///
+/// A negative code point passes ValidateCodePoint; GetNbBytes then compares signed and answers 1
+/// while Encode compares unsigned and writes the four-byte form (0xF0 | bits 18 and up, then three
+/// continuation bytes). Both are kept on purpose for compatibility, hence the 4-byte buffer rule.
 class PLUREXDATA_API EncoderUTF8 final : public Encoder {
 public:
     EncoderUTF8() = default;

@@ -6,10 +6,10 @@
 
 namespace Korv::Plurex::Unicode {
 
-// The UTF-8 assembly step: the code point of the n bytes of one sequence. 0 when n is 0; the first
-// byte keeps its low 7 bits when n is 1 and its low 8 - (n + 1) bits otherwise, every further byte
-// its low 6 bits. The bytes are not checked: overlong forms, surrogates and values above 0x10FFFF come
-// out as they are. Bits pushed beyond 32 (n above 6) are lost.
+/// The UTF-8 assembly step: the code point of the n bytes of one sequence. 0 when n is 0; the first
+/// byte keeps its low 7 bits when n is 1 and its low 8 - (n + 1) bits otherwise, every further byte
+/// its low 6 bits. The bytes are not checked: overlong forms, surrogates and values above 0x10FFFF come
+/// out as they are. Bits pushed beyond 32 (n above 6) are lost.
 constexpr CodePoint GetCode(unsigned char const* bytes, unsigned char n) noexcept {
     if (n == 0) {
         return 0;

@@ -7,14 +7,14 @@
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
-// Whether an essence is stored. A type of its own, not Clips::ArchiveStatus: an essence is either
-// stored or not, with no state for waiting to be stored.
+/// Whether an essence is stored. A type of its own, not Clips::ArchiveStatus: an essence is either
+/// stored or not, with no state for waiting to be stored.
 enum class ArchiveStatus : std::int32_t { NoStore = 0, Stored = 1, Unknown = 2 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(ArchiveStatus value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); ArchiveStatus::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); ArchiveStatus::Unknown for any other
+/// text.
 PLUREXDATA_API ArchiveStatus ToArchiveStatus(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

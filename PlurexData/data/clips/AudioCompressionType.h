@@ -7,7 +7,7 @@
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
-// The audio codec of an essence.
+/// The audio codec of an essence.
 enum class AudioCompressionType : std::int32_t {
     IntraNone = 0,
     LongGopNone = 1,
@@ -15,10 +15,10 @@ enum class AudioCompressionType : std::int32_t {
     Unknown = 3
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(AudioCompressionType value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); AudioCompressionType::Unknown for any
-// other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); AudioCompressionType::Unknown for any
+/// other text.
 PLUREXDATA_API AudioCompressionType ToAudioCompressionType(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -7,7 +7,7 @@
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
-// The encoding bit length of an intra essence; the prefix names the essence type it suits.
+/// The encoding bit length of an intra essence; the prefix names the essence type it suits.
 enum class Metadata : std::int32_t {
     IntraEncodingBitLengthUnknown = 0,
     IntraEncodingBitLength8 = 1,
@@ -17,9 +17,9 @@ enum class Metadata : std::int32_t {
     Unknown = 5
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(Metadata value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); Metadata::Unknown for any other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); Metadata::Unknown for any other text.
 PLUREXDATA_API Metadata ToMetadata(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

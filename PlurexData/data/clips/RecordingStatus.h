@@ -7,7 +7,7 @@
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
-// How far the recording of an essence has got.
+/// How far the recording of an essence has got.
 enum class RecordingStatus : std::int32_t {
     NotPresent = 0,
     Reserved = 1,
@@ -17,10 +17,10 @@ enum class RecordingStatus : std::int32_t {
     Unknown = 5
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(RecordingStatus value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); RecordingStatus::Unknown for any other
-// text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); RecordingStatus::Unknown for any other
+/// text.
 PLUREXDATA_API RecordingStatus ToRecordingStatus(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -7,12 +7,12 @@
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
-// The kind of an essence: intra-frame, long GOP or low resolution.
+/// The kind of an essence: intra-frame, long GOP or low resolution.
 enum class Type : std::int32_t { Intra = 0, LongGop = 1, LowRes = 2, Unknown = 3 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(Type value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); Type::Unknown for any other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); Type::Unknown for any other text.
 PLUREXDATA_API Type ToType(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -7,7 +7,7 @@
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
-// Further detail on the video codec of an essence; the prefix names the essence type it suits.
+/// Further detail on the video codec of an essence; the prefix names the essence type it suits.
 enum class VideoCompressionInfo : std::int32_t {
     IntraNone = 0,
     IntraDnxHdUnknown = 1,
@@ -23,10 +23,10 @@ enum class VideoCompressionInfo : std::int32_t {
     Unknown = 11
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(VideoCompressionInfo value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); VideoCompressionInfo::Unknown for any
-// other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); VideoCompressionInfo::Unknown for any
+/// other text.
 PLUREXDATA_API VideoCompressionInfo ToVideoCompressionInfo(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

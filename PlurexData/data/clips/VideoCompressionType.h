@@ -7,7 +7,7 @@
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
-// The video codec of an essence; the prefix names the essence type it suits.
+/// The video codec of an essence; the prefix names the essence type it suits.
 enum class VideoCompressionType : std::int32_t {
     IntraMjpegRegular = 0,
     IntraMjpegInverted = 1,
@@ -33,10 +33,10 @@ enum class VideoCompressionType : std::int32_t {
     Unknown = 21
 };
 
-// The name of `value`; "Unknown" for a value without a name of its own.
+/// The name of `value`; "Unknown" for a value without a name of its own.
 PLUREXDATA_API const std::string& ToString(VideoCompressionType value) noexcept;
-// The value named exactly `text` (case-sensitive, nothing trimmed); VideoCompressionType::Unknown for any
-// other text.
+/// The value named exactly `text` (case-sensitive, nothing trimmed); VideoCompressionType::Unknown for any
+/// other text.
 PLUREXDATA_API VideoCompressionType ToVideoCompressionType(const std::string& text) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

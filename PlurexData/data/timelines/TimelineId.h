@@ -7,40 +7,54 @@
 
 namespace Korv::Plurex::Data::Timelines {
 
-// A timeline (an edit sequence held on a server): its number, 0 to 109, and its server.
+/// A timeline (an edit sequence held on a server): its number, 0 to 109, and its server.
 class PLUREXDATA_API TimelineId {
 public:
-    // Number 0 on no server; what IsNullOrEmpty recognises.
+    /// Number 0 on no server; what IsNullOrEmpty recognises.
     static const TimelineId cEmpty;
 
+    /// Number 0 on no server, equal to cEmpty.
     TimelineId();
-    // Throws as SetNumber and SetServerId do.
+    /// Throws as SetNumber and SetServerId do.
     TimelineId(int number, const Servers::ServerId& server);
 
+    /// The timeline number, 0 to 109.
     int GetNumber() const noexcept { return number_; }
+    /// The server.
     Servers::ServerId GetServerId() const { return server_; }
 
-    // Throws std::invalid_argument("invalid number") outside 0 to 109, leaving the number unchanged.
+    /// Throws std::invalid_argument("invalid number") outside 0 to 109, leaving the number unchanged.
     void SetNumber(int number);
+    /// Sets the server; a null `server` throws std::invalid_argument("null ServerId").
+    ///@{
     void SetServerId(const Servers::ServerId& server);
-    // A null `server` throws std::invalid_argument("null ServerId").
     void SetServerId(const Servers::ServerId* server);
+    ///@}
 
-    // this number - other number; 1 for a null `other`. The server takes no part: timelines of two
-    // servers with one number compare as 0. Kept so, as every caller's ordering depends on it.
+    /// this number - other number; 1 for a null `other`. The server takes no part: timelines of two
+    /// servers with one number compare as 0. Kept so, as every caller's ordering depends on it.
+    ///@{
     int CompareTo(const TimelineId& other) const noexcept;
     int CompareTo(const TimelineId* other) const noexcept;
-    // Same number and same server; false for a null `other`.
+    ///@}
+    /// Same number and same server; false for a null `other`.
+    ///@{
     bool Equals(const TimelineId& other) const noexcept;
     bool Equals(const TimelineId* other) const noexcept;
+    ///@}
+    /// Equals: unlike CompareTo, the server counts.
+    ///@{
     bool operator==(const TimelineId& other) const noexcept { return Equals(other); }
     bool operator!=(const TimelineId& other) const noexcept { return !Equals(other); }
+    ///@}
 
-    // True for a null `id` or one equal to cEmpty.
+    /// True for a null `id` or one equal to cEmpty.
+    ///@{
     static bool IsNullOrEmpty(const TimelineId& id) noexcept;
     static bool IsNullOrEmpty(const TimelineId* id) noexcept;
+    ///@}
 
-    // The number in 3 digits, "/", then the server's text: "007/   10".
+    /// The number in 3 digits, "/", then the server's text: "007/   10".
     std::string ToString() const;
 
 private:
