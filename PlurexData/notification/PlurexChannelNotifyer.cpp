@@ -6,56 +6,80 @@
 
 namespace Korv::Plurex::Notification {
 
+namespace {
+
+// Calls `visit` with the specific callback list of an event type; types without one have none.
+template <class Visit>
+void WithCommandList(PlurexChannelNotifyer& notifier, ChannelCommandEvent::Type type, Visit&& visit) {
+    using Type = ChannelCommandEvent::Type;
+    switch (type) {
+        case Type::RecorderTransportProcessed:
+            visit(notifier.recorderTransportProcessedCallbacks);
+            return;
+        case Type::PlayerLoadProcessed:
+            visit(notifier.playerLoadProcessedCallbacks);
+            return;
+        case Type::PlayerTransportProcessed:
+            visit(notifier.playerTransportProcessedCallbacks);
+            return;
+        default:
+            return;
+    }
+}
+
+template <class Visit>
+void WithStatusList(PlurexChannelNotifyer& notifier, ChannelStatusEvent::Type type, Visit&& visit) {
+    using Type = ChannelStatusEvent::Type;
+    switch (type) {
+        case Type::RecorderStateChanged:
+            visit(notifier.recorderStateChangedCallbacks);
+            return;
+        case Type::PlayerStateChanged:
+            visit(notifier.playerStateChangedCallbacks);
+            return;
+        default:
+            return;
+    }
+}
+
+}  // namespace
+
 PlurexChannelNotifyer::PlurexChannelNotifyer() : commandSize_(0), statusSize_(0) {}
 
 PlurexChannelNotifyer::~PlurexChannelNotifyer() = default;
 
 void PlurexChannelNotifyer::SendEvent(std::shared_ptr<ChannelCommandEventArgs> args,
                                       ChannelCommandEvent::Type type) {
-    detail::Append(commandQueue_, commandMutex_, commandSize_, ChannelCommandEvent{std::move(args), type});
+    detail::Append(commandQueue_, commandMutex_, commandSize_, ChannelCommandEvent{std::move(args), type},
+                   [this](const ChannelCommandEvent& event) {
+                       WithCommandList(*this, event.type,
+                                       [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                   });
 }
 
 void PlurexChannelNotifyer::SendEvent(std::shared_ptr<ChannelStatusEventArgs> args,
                                       ChannelStatusEvent::Type type) {
-    detail::Append(statusQueue_, statusMutex_, statusSize_, ChannelStatusEvent{std::move(args), type});
+    detail::Append(statusQueue_, statusMutex_, statusSize_, ChannelStatusEvent{std::move(args), type},
+                   [this](const ChannelStatusEvent& event) {
+                       WithStatusList(*this, event.type,
+                                      [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                   });
 }
 
 void PlurexChannelNotifyer::Run() {
-    using detail::CallEach;
     ChannelCommandEvent command;
     if (detail::TakeFront(commandQueue_, commandMutex_, commandSize_, command)) {
         const ChannelCommandEventArgs& args = *command.args;
-        switch (command.type) {
-            case ChannelCommandEvent::Type::RecorderTransportProcessed:
-                CallEach(recorderTransportProcessedCallbacks, args);
-                break;
-            case ChannelCommandEvent::Type::PlayerLoadProcessed:
-                CallEach(playerLoadProcessedCallbacks, args);
-                break;
-            case ChannelCommandEvent::Type::PlayerTransportProcessed:
-                CallEach(playerTransportProcessedCallbacks, args);
-                break;
-            default:  // no specific list
-                break;
-        }
-        CallEach(genericCommandCallbacks, command.type, args);
+        WithCommandList(*this, command.type, [&](const auto& list) { detail::CallEach(list, args); });
+        detail::CallEach(genericCommandCallbacks, command.type, args);
         command.args.reset();
     }
 
     ChannelStatusEvent status;
     if (detail::TakeFront(statusQueue_, statusMutex_, statusSize_, status)) {
         const ChannelStatusEventArgs& args = *status.args;
-        switch (status.type) {
-            case ChannelStatusEvent::Type::RecorderStateChanged:
-                CallEach(recorderStateChangedCallbacks, args);
-                break;
-            case ChannelStatusEvent::Type::PlayerStateChanged:
-                CallEach(playerStateChangedCallbacks, args);
-                break;
-            default:  // no specific list
-                break;
-        }
-        CallEach(genericStatusCallbacks, status.type, args);
+        WithStatusList(*this, status.type, [&](const auto& list) { detail::CallEach(list, args); });
+        detail::CallEach(genericStatusCallbacks, status.type, args);
     }
 }
 

@@ -23,8 +23,8 @@ namespace Korv::Plurex::Notification {
 
 /// Carries channel events (commands processed, state changes) as PlurexClipNotifyer carries clip
 /// events: a command and a status queue, each with its own mutex, drained one event per queue per
-/// Run on the caller's thread. Clients register by appending to the public callback lists, which must
-/// not change while Run may be running.
+/// Run on the caller's thread. Clients register by appending to the public callback lists, between
+/// calls to Run or from one of its callbacks, as on PlurexClipNotifyer.
 class PLUREXDATA_API PlurexChannelNotifyer {
 public:
     /// A specific list: each callback receives the arguments as class `Args`.
@@ -44,7 +44,9 @@ public:
     ~PlurexChannelNotifyer();
 
     /// Appends {args, type} at the back of its queue; safe from any number of threads. Null arguments
-    /// throw std::invalid_argument("Null EventArgs"); a failed lock throws std::system_error.
+    /// throw std::invalid_argument("Null EventArgs"), arguments of another class than the type's
+    /// specific list receives std::invalid_argument("EventArgs do not match the event type"), and a
+    /// failed lock std::system_error; the queue is unchanged by all three.
     ///@{
     void SendEvent(std::shared_ptr<ChannelCommandEventArgs> args, ChannelCommandEvent::Type type);
     void SendEvent(std::shared_ptr<ChannelStatusEventArgs> args, ChannelStatusEvent::Type type);

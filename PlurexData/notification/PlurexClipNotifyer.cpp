@@ -6,98 +6,121 @@
 
 namespace Korv::Plurex::Notification {
 
+namespace {
+
+// Calls `visit` with the specific callback list of a command event type; types without one have none.
+template <class Visit>
+void WithCommandList(PlurexClipNotifyer& notifier, ClipCommandEvent::Type type, Visit&& visit) {
+    using Type = ClipCommandEvent::Type;
+    switch (type) {
+        case Type::ClipCreation:
+            visit(notifier.clipCreationCallbacks);
+            return;
+        case Type::ClipCreationFinished:
+            visit(notifier.clipCreationFinishedCallbacks);
+            return;
+        case Type::ClipCreationFailed:
+            visit(notifier.clipCreationFailedCallbacks);
+            return;
+        case Type::ClipUpdateFinished:
+            visit(notifier.clipUpdateFinishedCallbacks);
+            return;
+        case Type::ClipUpdateFailed:
+            visit(notifier.clipUpdateFailedCallbacks);
+            return;
+        case Type::ClipDeletionFinished:
+            visit(notifier.clipDeletionFinishedCallbacks);
+            return;
+        case Type::ClipDeletionFailed:
+            visit(notifier.clipDeletionFailedCallbacks);
+            return;
+        case Type::ClipMove:
+            visit(notifier.clipMoveCallbacks);
+            return;
+        case Type::ClipMoveFinished:
+            visit(notifier.clipMoveFinishedCallbacks);
+            return;
+        case Type::ClipMoveFailed:
+            visit(notifier.clipMoveFailedCallbacks);
+            return;
+        case Type::MassClipUpdate:
+            visit(notifier.massClipUpdateCallbacks);
+            return;
+        case Type::MassClipUpdateFailed:
+            visit(notifier.massClipUpdateFailedCallbacks);
+            return;
+        case Type::MassClipDeletion:
+            visit(notifier.massClipDeletionCallbacks);
+            return;
+        case Type::MassClipDeletionFailed:
+            visit(notifier.massClipDeletionFailedCallbacks);
+            return;
+        case Type::AnglesGroupCreationFinished:
+            visit(notifier.anglesGroupCreationFinishedCallbacks);
+            return;
+        case Type::AnglesGroupCreationFailed:
+            visit(notifier.anglesGroupCreationFailedCallbacks);
+            return;
+        case Type::AnglesGroupUpdateFinished:
+            visit(notifier.anglesGroupUpdateFinishedCallbacks);
+            return;
+        case Type::AnglesGroupUpdateFailed:
+            visit(notifier.anglesGroupUpdateFailedCallbacks);
+            return;
+        case Type::AnglesGroupDeletionFinished:
+            visit(notifier.anglesGroupDeletionFinishedCallbacks);
+            return;
+        case Type::AnglesGroupDeletionFailed:
+            visit(notifier.anglesGroupDeletionFailedCallbacks);
+            return;
+        default:
+            return;
+    }
+}
+
+template <class Visit>
+void WithStatusList(PlurexClipNotifyer& notifier, ClipStatusEvent::Type type, Visit&& visit) {
+    if (type == ClipStatusEvent::Type::RecordingRangesChanged) {
+        visit(notifier.recordingRangesChangedCallbacks);
+    }
+}
+
+}  // namespace
+
 PlurexClipNotifyer::PlurexClipNotifyer() : commandSize_(0), statusSize_(0) {}
 
 PlurexClipNotifyer::~PlurexClipNotifyer() = default;
 
 void PlurexClipNotifyer::SendEvent(std::shared_ptr<ClipCommandEventArgs> args, ClipCommandEvent::Type type) {
-    detail::Append(commandQueue_, commandMutex_, commandSize_, ClipCommandEvent{std::move(args), type});
+    detail::Append(commandQueue_, commandMutex_, commandSize_, ClipCommandEvent{std::move(args), type},
+                   [this](const ClipCommandEvent& event) {
+                       WithCommandList(*this, event.type,
+                                       [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                   });
 }
 
 void PlurexClipNotifyer::SendEvent(std::shared_ptr<ClipStatusEventArgs> args, ClipStatusEvent::Type type) {
-    detail::Append(statusQueue_, statusMutex_, statusSize_, ClipStatusEvent{std::move(args), type});
+    detail::Append(statusQueue_, statusMutex_, statusSize_, ClipStatusEvent{std::move(args), type},
+                   [this](const ClipStatusEvent& event) {
+                       WithStatusList(*this, event.type,
+                                      [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                   });
 }
 
 void PlurexClipNotifyer::Run() {
-    using detail::CallEach;
     ClipCommandEvent command;
     if (detail::TakeFront(commandQueue_, commandMutex_, commandSize_, command)) {
         const ClipCommandEventArgs& args = *command.args;
-        switch (command.type) {
-            case ClipCommandEvent::Type::ClipCreation:
-                CallEach(clipCreationCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipCreationFinished:
-                CallEach(clipCreationFinishedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipCreationFailed:
-                CallEach(clipCreationFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipUpdateFinished:
-                CallEach(clipUpdateFinishedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipUpdateFailed:
-                CallEach(clipUpdateFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipDeletionFinished:
-                CallEach(clipDeletionFinishedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipDeletionFailed:
-                CallEach(clipDeletionFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipMove:
-                CallEach(clipMoveCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipMoveFinished:
-                CallEach(clipMoveFinishedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::ClipMoveFailed:
-                CallEach(clipMoveFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::MassClipUpdate:
-                CallEach(massClipUpdateCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::MassClipUpdateFailed:
-                CallEach(massClipUpdateFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::MassClipDeletion:
-                CallEach(massClipDeletionCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::MassClipDeletionFailed:
-                CallEach(massClipDeletionFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::AnglesGroupCreationFinished:
-                CallEach(anglesGroupCreationFinishedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::AnglesGroupCreationFailed:
-                CallEach(anglesGroupCreationFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::AnglesGroupUpdateFinished:
-                CallEach(anglesGroupUpdateFinishedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::AnglesGroupUpdateFailed:
-                CallEach(anglesGroupUpdateFailedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::AnglesGroupDeletionFinished:
-                CallEach(anglesGroupDeletionFinishedCallbacks, args);
-                break;
-            case ClipCommandEvent::Type::AnglesGroupDeletionFailed:
-                CallEach(anglesGroupDeletionFailedCallbacks, args);
-                break;
-            default:  // no specific list
-                break;
-        }
-        CallEach(genericCommandCallbacks, command.type, args);
+        WithCommandList(*this, command.type, [&](const auto& list) { detail::CallEach(list, args); });
+        detail::CallEach(genericCommandCallbacks, command.type, args);
         command.args.reset();
     }
 
     ClipStatusEvent status;
     if (detail::TakeFront(statusQueue_, statusMutex_, statusSize_, status)) {
         const ClipStatusEventArgs& args = *status.args;
-        if (status.type == ClipStatusEvent::Type::RecordingRangesChanged) {
-            CallEach(recordingRangesChangedCallbacks, args);
-        }
-        CallEach(genericStatusCallbacks, status.type, args);
+        WithStatusList(*this, status.type, [&](const auto& list) { detail::CallEach(list, args); });
+        detail::CallEach(genericStatusCallbacks, status.type, args);
     }
 }
 

@@ -41,8 +41,10 @@ namespace Korv::Plurex::Notification {
 /// Two queues (commands and status), each guarded by its own mutex, held only to append or remove one
 /// record and never while a callback runs, so a callback may post to the same notifier.
 ///
-/// Clients register by appending to the public callback lists, before or between calls to Run: the
-/// lists are not guarded and must not change while Run may be running (a callback included).
+/// Clients register by appending to the public callback lists, before or between calls to Run, or
+/// from a callback of this notifier's Run (the walk sees a callback appended to its own list in the
+/// same Run). The lists are not guarded: no other thread may change them while Run may be running,
+/// and no callback may remove or replace callbacks.
 class PLUREXDATA_API PlurexClipNotifyer {
 public:
     /// A specific list: each callback receives the arguments as class `Args`.
@@ -63,7 +65,9 @@ public:
 
     /// Appends {args, type} at the back of its queue; safe from any number of threads. The producer may
     /// drop its own reference at once. Null arguments throw std::invalid_argument("Null EventArgs");
-    /// a failed lock throws std::system_error. The queue is unchanged by either.
+    /// arguments that are not of the class the type's specific list receives (or derived from it)
+    /// throw std::invalid_argument("EventArgs do not match the event type"); a failed lock throws
+    /// std::system_error. The queue is unchanged by all three.
     ///@{
     void SendEvent(std::shared_ptr<ClipCommandEventArgs> args, ClipCommandEvent::Type type);
     void SendEvent(std::shared_ptr<ClipStatusEventArgs> args, ClipStatusEvent::Type type);

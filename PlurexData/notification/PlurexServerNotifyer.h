@@ -19,7 +19,7 @@ namespace Korv::Plurex::Notification {
 
 /// Carries server events as PlurexClipNotifyer carries clip events, through a single queue: server
 /// events have no command/status split. Clients register by appending to the public callback lists,
-/// which must not change while Run may be running.
+/// between calls to Run or from one of its callbacks, as on PlurexClipNotifyer.
 class PLUREXDATA_API PlurexServerNotifyer {
 public:
     /// A specific list: each callback receives the arguments as class `Args`.
@@ -36,7 +36,9 @@ public:
     ~PlurexServerNotifyer();
 
     /// Appends {args, type} at the back of the queue; safe from any number of threads. Null arguments
-    /// throw std::invalid_argument("Null EventArgs"); a failed lock throws std::system_error.
+    /// throw std::invalid_argument("Null EventArgs"), arguments of another class than the type's
+    /// specific list receives std::invalid_argument("EventArgs do not match the event type"), and a
+    /// failed lock std::system_error; the queue is unchanged by all three.
     void SendEvent(std::shared_ptr<ServerStatusEventArgs> args, ServerStatusEvent::Type type);
 
     /// At most one event: specific list, then generic list. An empty callback or a callback's

@@ -1,5 +1,7 @@
 #include "Samples.h"
 
+#include <gmock/gmock.h>
+
 #include <functional>
 #include <stdexcept>
 
@@ -85,6 +87,59 @@ TEST(PlurexChannelNotifyer, FailuresLoseTheEventAndSkipTheRestOfRun) {
     EXPECT_EQ(log.calls, Calls({"2", "g2", "recorder", "s9"}));
     EXPECT_THROW(notifier.SendEvent(std::shared_ptr<ChannelStatusEventArgs>(), ChannelStatusEvent::Type(0)),
                  std::invalid_argument);
+}
+
+TEST(PlurexChannelNotifyer, ACallbackMayAppendCallbacksThatRunInTheSameRun) {
+    PlurexChannelNotifyer notifier;
+    EXPECT_EQ(
+        AppendFromACallback(notifier, notifier.playerLoadProcessedCallbacks, notifier.genericCommandCallbacks,
+                            std::make_shared<PlayerLoadProcessedEventArgs>(),
+                            ChannelCommandEvent::Type::PlayerLoadProcessed),
+        AppendedCalls());
+    PlurexChannelNotifyer other;
+    EXPECT_EQ(AppendFromACallback(other, other.playerStateChangedCallbacks, other.genericStatusCallbacks,
+                                  std::make_shared<PlayerStateChangedEventArgs>(
+                                      Channel(), PlayerState::StatusChange::Mode, PlayerState()),
+                                  ChannelStatusEvent::Type::PlayerStateChanged),
+              AppendedCalls());
+}
+
+TEST(PlurexChannelNotifyer, RefusesArgumentsOfAnotherClassThanTheTypeNames) {
+    PlurexChannelNotifyer notifier;
+    const std::string mismatch = "EventArgs do not match the event type";
+    for (std::int32_t type = 0; type < 3; ++type) {
+        EXPECT_THAT(
+            [&] {
+                notifier.SendEvent(std::make_shared<ChannelCommandEventArgs>(),
+                                   static_cast<ChannelCommandEvent::Type>(type));
+            },
+            testing::ThrowsMessage<std::invalid_argument>(testing::StrEq(mismatch)));
+    }
+    EXPECT_THROW(notifier.SendEvent(std::make_shared<PlayerLoadProcessedEventArgs>(),
+                                    ChannelCommandEvent::Type::PlayerTransportProcessed),
+                 std::invalid_argument);
+    EXPECT_THROW(notifier.SendEvent(std::make_shared<RecorderStateChangedEventArgs>(
+                                        Channel(), RecorderState::StatusChange::Name, RecorderState()),
+                                    ChannelStatusEvent::Type::PlayerStateChanged),
+                 std::invalid_argument);
+    Log log;
+    WatchAll(notifier, log);
+    notifier.Run();  // nothing was queued
+    EXPECT_TRUE(log.calls.empty());
+}
+
+TEST(PlurexServerNotifyer, RefusesArgumentsOfAnotherClassAndLetsCallbacksAppend) {
+    PlurexServerNotifyer notifier;
+    EXPECT_THROW(
+        notifier.SendEvent(std::make_shared<ServerAddedEventArgs>(), ServerStatusEvent::Type::ServerRemoved),
+        std::invalid_argument);
+    EXPECT_THROW(notifier.SendEvent(std::make_shared<ServerStatusEventArgs>(),
+                                    ServerStatusEvent::Type::DisconnectedFromNetwork),
+                 std::invalid_argument);
+    EXPECT_EQ(AppendFromACallback(notifier, notifier.serverRemovedCallbacks, notifier.genericCallbacks,
+                                  std::make_shared<ServerRemovedEventArgs>(),
+                                  ServerStatusEvent::Type::ServerRemoved),
+              AppendedCalls());
 }
 
 TEST(PlurexServerNotifyer, RoutesEveryTypeValueThroughItsSingleQueue) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <set>
 #include <stdexcept>
 #include <utility>
 
@@ -149,6 +150,55 @@ TEST(PlurexClipNotifyer, ACallbackMayPostToTheSameQueue) {
     EXPECT_EQ(calls, Calls({"count1", "count2", "count3"}));
 }
 
+TEST(PlurexClipNotifyer, ACallbackMayAppendCallbacksThatRunInTheSameRun) {
+    PlurexClipNotifyer notifier;
+    EXPECT_EQ(AppendFromACallback(notifier, notifier.massClipUpdateCallbacks,
+                                  notifier.genericCommandCallbacks, Mass(1), CommandType::MassClipUpdate),
+              AppendedCalls());
+    PlurexClipNotifyer other;
+    EXPECT_EQ(AppendFromACallback(other, other.recordingRangesChangedCallbacks, other.genericStatusCallbacks,
+                                  std::make_shared<RecordingRangesChangedEventArgs>(),
+                                  StatusType::RecordingRangesChanged),
+              AppendedCalls());
+}
+
+// Arguments under every type value: refused, before anything is queued, unless they are of the class
+// the type's specific list receives or derived from it; values without a list take any class.
+TEST(PlurexClipNotifyer, RefusesArgumentsOfAnotherClassThanTheTypeNames) {
+    const auto routes = Routes();
+    // (type, route) pairs where the route's class derives from the type's own class.
+    const std::set<std::pair<std::int32_t, std::int32_t>> derived = {{0, 1}, {0, 2},   {7, 8},
+                                                                     {7, 9}, {10, 11}, {12, 13}};
+    PlurexClipNotifyer notifier;
+    std::size_t delivered = 0;
+    notifier.genericCommandCallbacks.push_back(
+        [&](CommandType, const ClipCommandEventArgs&) { ++delivered; });
+    std::size_t accepted = 0;
+    for (std::int32_t type = -1; type <= 21; ++type) {
+        for (const auto& [route, args] : routes) {
+            const bool ok = type < 0 || type > 19 || type == route || derived.count({type, route}) != 0;
+            if (ok) {
+                EXPECT_NO_THROW(notifier.SendEvent(args, static_cast<CommandType>(type)))
+                    << type << ' ' << route;
+                ++accepted;
+            } else {
+                EXPECT_THAT(
+                    [&] { notifier.SendEvent(args, static_cast<CommandType>(type)); },
+                    ThrowsMessage<std::invalid_argument>(StrEq("EventArgs do not match the event type")))
+                    << type << ' ' << route;
+            }
+        }
+    }
+    for (std::size_t i = 0; i < accepted + 1; ++i) {
+        notifier.Run();
+    }
+    EXPECT_EQ(delivered, accepted);
+
+    EXPECT_THAT([&] { notifier.SendEvent(std::make_shared<ClipStatusEventArgs>(), StatusType(0)); },
+                ThrowsMessage<std::invalid_argument>(StrEq("EventArgs do not match the event type")));
+    EXPECT_NO_THROW(notifier.SendEvent(std::make_shared<ClipStatusEventArgs>(), StatusType(1)));
+}
+
 TEST(PlurexClipNotifyer, AFailingCallbackLosesTheEventAndSkipsTheRestOfRun) {
     PlurexClipNotifyer notifier;
     Log log;
@@ -166,7 +216,8 @@ TEST(PlurexClipNotifyer, AFailingCallbackLosesTheEventAndSkipsTheRestOfRun) {
     auto lost = Mass(1);
     const std::weak_ptr<MassClipUpdateEventArgs> released = lost;
     notifier.SendEvent(std::move(lost), CommandType::MassClipUpdate);
-    notifier.SendEvent(Mass(2), CommandType::MassClipDeletion);
+    notifier.SendEvent(std::make_shared<MassClipDeletionEventArgs>(COMMON, 2u),
+                       CommandType::MassClipDeletion);
     notifier.SendEvent(std::make_shared<ClipStatusEventArgs>(), StatusType(1));
     EXPECT_THROW(notifier.Run(), std::bad_function_call);
     EXPECT_EQ(log.calls, Calls({"before"}));

@@ -83,4 +83,39 @@ void WatchGeneric(List& list, const std::string& prefix, Log& log) {
     });
 }
 
+// A callback on `list` that appends 64 callbacks to its own list (enough to move the vector's storage
+// several times while it runs) and one to `generic`, then reads its own capture: every appended
+// callback runs in the same Run, after the ones already there. The capture is a single pointer, so
+// the callable lives inside the list's storage, which the appends free. Returns the calls, in order.
+template <class Notifier, class List, class Generic, class Args, class Type>
+Calls AppendFromACallback(Notifier& notifier, List& list, Generic& generic, std::shared_ptr<Args> args,
+                          Type type) {
+    struct Appender {
+        List& list;
+        Generic& generic;
+        Calls calls;
+    } appender{list, generic, {}};
+    list.push_back([self = &appender](const auto&) {
+        self->calls.push_back("first");
+        for (int i = 0; i < 64; ++i) {
+            self->list.push_back([self, i](const auto&) { self->calls.push_back(std::to_string(i)); });
+        }
+        self->generic.push_back([self](auto, const auto&) { self->calls.push_back("generic"); });
+        self->calls.push_back("first again");  // reads the capture after the moves
+    });
+    notifier.SendEvent(std::move(args), type);
+    notifier.Run();
+    return appender.calls;
+}
+
+// What AppendFromACallback sees.
+inline Calls AppendedCalls() {
+    Calls calls{"first", "first again"};
+    for (int i = 0; i < 64; ++i) {
+        calls.push_back(std::to_string(i));
+    }
+    calls.push_back("generic");
+    return calls;
+}
+
 }  // namespace NotificationTests
