@@ -9,22 +9,30 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <mutex>
 
 namespace Korv::Plurex::Data {
 
 namespace {
 
-boost::random::mt19937& SharedGenerator() {
-    // Seeded once from the operating system's entropy, as Boost seeds its own UUID generators. A
-    // failure to seed propagates and leaves the generator unmade, so the next call tries again.
-    static boost::random::mt19937 generator = [] {
-        boost::random::mt19937 seeded;
+// The one generator of the process, seeded once from the operating system's entropy, as Boost seeds
+// its own UUID generators, with the lock that lets threads draw from it at once: unguarded, two
+// threads could read the same state and return the same GUID. A failure to seed propagates and leaves
+// the generator unmade, so the next call tries again.
+struct SharedGenerator {
+    boost::random::mt19937 generator;
+    std::mutex mutex;
+
+    SharedGenerator() {
         boost::uuids::detail::random_provider entropy;
-        seeded.seed(entropy);
-        return seeded;
-    }();
-    return generator;
-}
+        generator.seed(entropy);
+    }
+
+    static SharedGenerator& Get() {
+        static SharedGenerator shared;
+        return shared;
+    }
+};
 
 bool IsHexDigit(char c) noexcept {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
@@ -49,11 +57,17 @@ bool HasUuidShape(const std::string& text) noexcept {
 }  // namespace
 
 Guid::Guid() {
-    boost::random::mt19937& generator = SharedGenerator();
+    SharedGenerator& shared = SharedGenerator::Get();
+    std::uint32_t words[4];
+    {
+        const std::lock_guard<std::mutex> lock(shared.mutex);
+        for (std::uint32_t& word : words) {
+            word = shared.generator();
+        }
+    }
     for (unsigned int word = 0; word < 4; ++word) {
-        const std::uint32_t value = generator();
         for (unsigned int i = 0; i < 4; ++i) {
-            bytes_[4 * word + i] = static_cast<unsigned char>(value >> (8 * i));
+            bytes_[4 * word + i] = static_cast<unsigned char>(words[word] >> (8 * i));
         }
     }
     // RFC 4122 variant and version 4, marked as Boost's generator marks them.

@@ -14,8 +14,8 @@ public:
     static constexpr unsigned int Size = 16;
 
     /// A fresh random version-4 identifier, drawn from one Mersenne Twister shared by the process and
-    /// seeded once from the operating system's entropy. The generator is not locked: callers that
-    /// make random Guids on several threads serialise those calls.
+    /// seeded once from the operating system's entropy. Safe from any number of threads at once: the
+    /// draws are locked, so concurrent calls never return the same value.
     Guid();
     /// All zero, then the first min(size, 16) bytes of `data` when `data` is not null.
     Guid(const unsigned char* data, unsigned int size) noexcept;
