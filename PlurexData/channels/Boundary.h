@@ -14,8 +14,9 @@ public:
 
     /// A new copy of the same dynamic type.
     virtual std::unique_ptr<Boundary> Clone() const = 0;
-    /// Equals(other), so the left operand's kind decides.
-    bool operator==(const Boundary& other) const { return Equals(other); }
+    /// Equals(other), so the left operand's kind decides. Virtual, after Clone and before Equals in
+    /// the virtual table, so a kind of boundary may give its own.
+    virtual bool operator==(const Boundary& other) const;
     /// Whether `other` is a boundary of the same kind at the same limit.
     virtual bool Equals(const Boundary& other) const = 0;
     /// Whether the boundary sets no limit; a player state's boundaries start empty.
