@@ -2,9 +2,31 @@
 
 #include "PlurexData/Export.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace Korv::Plurex::Data::Channels {
+
+/// A signed 64-bit value stored as two consecutive 32-bit words, in the host's byte order, so that it
+/// needs no more than 4-byte alignment: a server sends PlayerInfoOnAir as 27 consecutive words, its
+/// 64-bit values included, on 32-bit and 64-bit hosts alike. Converts to and from std::int64_t.
+class PLUREXDATA_API Word64 {
+public:
+    /// Zero.
+    constexpr Word64() noexcept = default;
+    /// The value `value`; implicit, so a Word64 is assigned and compared as an integer.
+    Word64(std::int64_t value) noexcept { std::memcpy(words_, &value, sizeof value); }
+    /// The value.
+    operator std::int64_t() const noexcept {
+        std::int64_t value;
+        std::memcpy(&value, words_, sizeof value);
+        return value;
+    }
+
+private:
+    std::uint32_t words_[2] = {};
+};
 
 /// What a player reports about its transport: 27 words, of which the player state's comparison reads
 /// the mode, word 1, the rate, the position and the end.
@@ -26,8 +48,8 @@ struct PLUREXDATA_API PlayerInfoOnAir {
     std::uint32_t word6 = 1;           ///< carried as reported; only equality reads it
     std::uint32_t word7 = 0;           ///< carried as reported; only equality reads it
     std::uint32_t word8 = 0;           ///< carried as reported; only equality reads it
-    /// Words 9 to 24; the low word of the first is the position.
-    std::int64_t values[ValueCount] = {};
+    /// Words 9 to 24 (bytes 36 to 99, 4-byte aligned); the low word of the first is the position.
+    Word64 values[ValueCount] = {};
     /// Word 25, the end: CompareStatus counts end - 1 - Position() samples as remaining, in unsigned
     /// 32-bit arithmetic.
     std::uint32_t end = 0;
@@ -43,5 +65,11 @@ struct PLUREXDATA_API PlayerInfoOnAir {
     bool operator!=(const PlayerInfoOnAir& other) const noexcept { return !(*this == other); }
     ///@}
 };
+
+// 27 words with nothing between them, as the record travels: a client may copy a server's 108 bytes
+// over the structure.
+static_assert(sizeof(PlayerInfoOnAir) == 108 && alignof(PlayerInfoOnAir) == 4);
+static_assert(offsetof(PlayerInfoOnAir, word8) == 32 && offsetof(PlayerInfoOnAir, values) == 36 &&
+              offsetof(PlayerInfoOnAir, end) == 100 && offsetof(PlayerInfoOnAir, word26) == 104);
 
 }  // namespace Korv::Plurex::Data::Channels

@@ -4,6 +4,7 @@
 #include "PlurexData/channels/TimeValue.h"
 
 #include <cstring>
+#include <utility>
 
 namespace Korv::Plurex::Data::Channels {
 
@@ -98,9 +99,40 @@ PlayerState& PlayerState::operator=(const PlayerState& other) {
     return *this;
 }
 
-PlayerState::PlayerState(PlayerState&& other) noexcept = default;
+// A state always has both boundaries, the moved-from one included: it gets empty ones, made before
+// anything moves so that a failed allocation leaves both states as they were.
+PlayerState::PlayerState(PlayerState&& other)
+    : ChannelState(std::move(other)),
+      firstValue(other.firstValue),
+      secondValue(other.secondValue),
+      infoOnAir(other.infoOnAir),
+      clipsOnAir(std::move(other.clipsOnAir)),
+      timeValues(other.timeValues),
+      timecodes(std::move(other.timecodes)),
+      thirdValue(other.thirdValue),
+      inBoundary(EmptyBoundary()),
+      outBoundary(EmptyBoundary()) {
+    inBoundary.swap(other.inBoundary);
+    outBoundary.swap(other.outBoundary);
+}
 
-PlayerState& PlayerState::operator=(PlayerState&& other) noexcept = default;
+PlayerState& PlayerState::operator=(PlayerState&& other) {
+    if (this != &other) {
+        auto in = EmptyBoundary();
+        auto out = EmptyBoundary();
+        ChannelState::operator=(std::move(other));
+        firstValue = other.firstValue;
+        secondValue = other.secondValue;
+        infoOnAir = other.infoOnAir;
+        clipsOnAir = std::move(other.clipsOnAir);
+        timeValues = other.timeValues;
+        timecodes = std::move(other.timecodes);
+        thirdValue = other.thirdValue;
+        inBoundary = std::exchange(other.inBoundary, std::move(in));
+        outBoundary = std::exchange(other.outBoundary, std::move(out));
+    }
+    return *this;
+}
 
 PlayerState::~PlayerState() = default;
 

@@ -51,10 +51,11 @@ public:
     PlayerState(const PlayerState& other);
     PlayerState& operator=(const PlayerState& other);
     ///@}
-    /// Takes the boundaries over; the moved-from state is left without boundaries.
+    /// Takes the boundaries over and leaves the moved-from state two new empty ones, so that every
+    /// state has both; the allocation comes first, and a failed one leaves both states as they were.
     ///@{
-    PlayerState(PlayerState&& other) noexcept;
-    PlayerState& operator=(PlayerState&& other) noexcept;
+    PlayerState(PlayerState&& other);
+    PlayerState& operator=(PlayerState&& other);
     ///@}
     ~PlayerState() override;
 

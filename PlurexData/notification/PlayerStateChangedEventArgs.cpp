@@ -9,7 +9,7 @@ PlayerStateChangedEventArgs::PlayerStateChangedEventArgs(const Data::Channels::G
 
 PlayerStateChangedEventArgs::PlayerStateChangedEventArgs(const PlayerStateChangedEventArgs& other) = default;
 
-PlayerStateChangedEventArgs::PlayerStateChangedEventArgs(PlayerStateChangedEventArgs&& other) noexcept = default;
+PlayerStateChangedEventArgs::PlayerStateChangedEventArgs(PlayerStateChangedEventArgs&& other) = default;
 
 PlayerStateChangedEventArgs::~PlayerStateChangedEventArgs() = default;
 

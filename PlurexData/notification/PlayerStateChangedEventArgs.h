@@ -16,7 +16,7 @@ public:
     /// Copy or move every field, the time stamp included: neither stamps the time again.
     ///@{
     PlayerStateChangedEventArgs(const PlayerStateChangedEventArgs& other);
-    PlayerStateChangedEventArgs(PlayerStateChangedEventArgs&& other) noexcept;
+    PlayerStateChangedEventArgs(PlayerStateChangedEventArgs&& other);
     ///@}
     ~PlayerStateChangedEventArgs() override;
 

@@ -10,7 +10,8 @@ RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(
 RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(const RecorderStateChangedEventArgs& other) =
     default;
 
-RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(RecorderStateChangedEventArgs&& other) noexcept = default;
+RecorderStateChangedEventArgs::RecorderStateChangedEventArgs(RecorderStateChangedEventArgs&& other) noexcept =
+    default;
 
 RecorderStateChangedEventArgs::~RecorderStateChangedEventArgs() = default;
 

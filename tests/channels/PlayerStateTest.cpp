@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <utility>
 
 using namespace Korv::Plurex::Data::Channels;
 using Change = PlayerState::StatusChange;
@@ -145,6 +146,46 @@ TEST(PlayerState, CopiesOwnTheirBoundaries) {
     EXPECT_TRUE(copy == assigned);
     assigned.outBoundary = std::make_unique<AbsoluteBoundary>(Korv::TimePoints::TimePoint(1));
     EXPECT_FALSE(copy == assigned);
+}
+
+// A moved-from state keeps both boundaries, empty, and stays usable; the target has the source's.
+TEST(PlayerState, MovesLeaveTheSourceEmptyBoundaries) {
+    const AbsoluteBoundary at42(Korv::TimePoints::TimePoint(42));
+    PlayerState source(7, 8);
+    source.inBoundary = at42.Clone();
+    PlayerState moved(std::move(source));
+    PlayerState assigned;
+    assigned = std::move(moved);
+    for (const PlayerState* from : {&source, &moved}) {
+        ASSERT_NE(from->inBoundary, nullptr);
+        ASSERT_NE(from->outBoundary, nullptr);
+        EXPECT_TRUE(from->inBoundary->IsEmpty());
+        EXPECT_TRUE(from->outBoundary->IsEmpty());
+        EXPECT_TRUE(*from == PlayerState(7, 8));  // equality reads both boundaries
+    }
+    EXPECT_TRUE(assigned.inBoundary->Equals(at42));
+    EXPECT_TRUE(assigned.outBoundary->IsEmpty());
+    EXPECT_EQ(assigned.GetSecondId(), 8u);
+}
+
+// A server's block is 27 consecutive 32-bit words, the eight 64-bit values from word 9 (byte 36) on,
+// on 32-bit and 64-bit hosts alike: copied over the structure, every field reads its own word.
+TEST(PlayerInfoOnAir, IsTwentySevenConsecutiveWords) {
+    std::uint32_t words[27];
+    for (std::uint32_t i = 0; i < 27; ++i) {
+        words[i] = 100 + i;
+    }
+    PlayerInfoOnAir info;
+    ASSERT_EQ(sizeof info, sizeof words);
+    std::memcpy(&info, words, sizeof words);
+    EXPECT_EQ(info.word8, 108u);
+    EXPECT_EQ(info.Position(), 109u);
+    for (std::uint32_t v = 0; v < PlayerInfoOnAir::ValueCount; ++v) {
+        const std::uint32_t low = 109 + 2 * v;  // little-endian host: low word first
+        EXPECT_EQ(info.values[v], static_cast<std::int64_t>((std::uint64_t{low + 1} << 32) | low)) << v;
+    }
+    EXPECT_EQ(info.end, 125u);
+    EXPECT_EQ(info.word26, 126u);
 }
 
 TEST(PlayerState, DefaultsAndEquality) {
