@@ -155,6 +155,44 @@ void FindCuePointAfter(benchmark::State& state) {
 }
 BENCHMARK(FindCuePointAfter)->UseManualTime();
 
+// The first add after 256 restores of a full train list (65,536 cue points, unsorted behind each
+// other), which sorts the whole list, against restoring the same and sorting it with
+// std::stable_sort. Goal: within 3x of the baseline.
+void AddAfterRepeatedRestores(benchmark::State& state) {
+    const UmId train("TRAIN");
+    std::mt19937 random(5);
+    std::vector<CuePoint> saved;
+    for (int i = 0; i < TrainCapacity; ++i) {
+        saved.push_back(Mark(static_cast<long long>(random() % 0x7FFFFFFFU), true, train));
+    }
+    CuePointUser user(TrainCapacity, ClipCapacity);
+    std::vector<CuePoint> plain;
+    const CuePoint next = Mark(0x40000000LL, true, train);
+    PlurexBench::CompareWithBaseline(
+        state,
+        [&] {
+            user.RemoveAllCuePoint();
+            for (int restore = 0; restore < 256; ++restore) {
+                user.SetCuePoint(saved, 1);
+            }
+            CuePoint mark = next;
+            benchmark::DoNotOptimize(user.AddCuePointToList(mark));
+        },
+        [&] {
+            plain.clear();
+            for (int restore = 0; restore < 256; ++restore) {
+                plain.insert(plain.end(), saved.begin(), saved.end());
+            }
+            plain.erase(plain.begin());
+            plain.push_back(next);
+            std::stable_sort(plain.begin(), plain.end(),
+                             [](const CuePoint& a, const CuePoint& b) { return a < b; });
+            benchmark::DoNotOptimize(plain.data());
+        },
+        1);
+}
+BENCHMARK(AddAfterRepeatedRestores)->UseManualTime();
+
 }  // namespace
 
 BENCHMARK_MAIN();

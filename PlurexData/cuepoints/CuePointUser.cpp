@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 
@@ -25,13 +26,23 @@ struct Less {
     bool operator()(const CuePoint& left, const CuePoint& right) const noexcept { return left < right; }
 };
 
-// Sorts by CuePoint <. Once positions lie more than 2^31 apart that order is not a strict weak
-// ordering, and std::sort may then read outside the range; inserting each element at the place a
-// binary search gives never leaves it, and is a stable sort wherever the order is consistent.
+// Sorts by CuePoint <, stably, in n log n: a bottom-up merge sort. Once positions lie more than 2^31
+// apart that order is not a strict weak ordering, and std::sort may then read outside the range; a
+// merge only ever compares the fronts of two runs whose ends it holds, so it never leaves them. A list
+// restored from the cache again and again grows large, which rules out sorting by insertion.
 void SortWithinBounds(CuePointUser::List& list) {
-    for (auto next = list.begin(); next != list.end(); ++next) {
-        const auto at = std::upper_bound(list.begin(), next, *next, Less{});
-        std::rotate(at, next, next + 1);
+    const std::size_t size = list.size();
+    CuePointUser::List merged;
+    merged.reserve(size);
+    for (std::size_t width = 1; width < size; width *= 2) {
+        merged.clear();
+        for (std::size_t left = 0; left < size; left += 2 * width) {
+            const std::size_t middle = std::min(left + width, size);
+            const std::size_t right = std::min(middle + width, size);
+            const auto at = [&list](std::size_t i) { return std::make_move_iterator(list.begin() + i); };
+            std::merge(at(left), at(middle), at(middle), at(right), std::back_inserter(merged), Less{});
+        }
+        list.swap(merged);
     }
 }
 

@@ -257,6 +257,31 @@ TEST(CuePointUser, KeepsTheListSortedAsAppendingAndSortingWould) {
     EXPECT_EQ(Positions(small.GetCuePoints()), (Tcs{1, 2, 3, 4}));
 }
 
+// Restores append behind what the list holds, however often; the next add then sorts the whole list
+// (stably, as appending and sorting would), here 65,536 cue points, which insertion sorted in seconds.
+TEST(CuePointUser, AnAddSortsAListGrownByRepeatedRestores) {
+    std::mt19937_64 random(3);
+    List saved;
+    for (int i = 0; i < 256; ++i) {
+        saved.push_back(TrainMark(static_cast<long long>(random() % 0x7FFFFFFFULL), i % 3 == 0 ? 20 : 10));
+    }
+    CuePointUser user(256, 32);
+    List model;
+    for (int restore = 0; restore < 256; ++restore) {
+        user.SetCuePoint(saved, 1);
+        model.insert(model.end(), saved.begin(), saved.end());
+    }
+    CuePoint mark = TrainMark(0x40000000LL);
+    ASSERT_EQ(user.AddCuePointToList(mark), 2);
+    model.erase(model.begin());
+    model.push_back(mark);
+    std::stable_sort(model.begin(), model.end(), [](auto& a, auto& b) { return a < b; });
+    ASSERT_EQ(user.GetCuePoints().size(), 65536U);
+    EXPECT_TRUE(Positions(user.GetCuePoints()) == Positions(model));
+    EXPECT_TRUE(std::equal(model.begin(), model.end(), user.GetCuePoints().begin(),
+                           [](auto& a, auto& b) { return a.GetServerId() == b.GetServerId(); }));
+}
+
 TEST(CuePointUser, ArbitraryPositionsNeverLeaveTheList) {
     // Positions more than 2^31 apart make the order inconsistent; adding must stay in bounds (the
     // sanitizer builds check) and keep the capacity and the numbering. Low halves exactly 2^31
