@@ -33,3 +33,4 @@ plurex_add_tool_test(usage ARGS frobnicate EXIT 2)
 string(REPLACE "." "\\." version_pattern "${PROJECT_VERSION}")
 plurex_add_tool_test(version ARGS --version
     STDOUT "^plurex ${version_pattern}\nlibKorv\\.PlurexData ${version_pattern}\n$")
+plurex_add_tool_test(help.full ARGS --help STDOUT_FILE /dev/full EXIT 1 STDERR "^cannot write standard output\n$")

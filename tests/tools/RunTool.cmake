@@ -1,6 +1,8 @@
 # cmake -DTOOL=... [-DRUNNER=emulator] -DEXIT=... [-DSTDOUT=regex] [-DSTDERR=regex] [-DSTDIN=file]
-#       -P RunTool.cmake -- ARGS...
-# Runs TOOL with ARGS (through RUNNER when given) and checks its exit status and outputs.
+#       [-DSTDIN_PIPE=ON] [-DSTDIN_CLOSED=ON] [-DSTDOUT_FILE=file] -P RunTool.cmake -- ARGS...
+# Runs TOOL with ARGS (through RUNNER when given) and checks its exit status and outputs. STDIN_PIPE
+# hands STDIN over through a pipe, which cannot seek; STDIN_CLOSED runs the tool with standard input
+# closed; STDOUT_FILE sends standard output to a file (such as /dev/full) instead of checking it.
 set(args)
 set(collect FALSE)
 math(EXPR last "${CMAKE_ARGC} - 1")
@@ -11,12 +13,22 @@ foreach(i RANGE ${last})
         set(collect TRUE)
     endif()
 endforeach()
-set(input_args)
-if(STDIN)
-    set(input_args INPUT_FILE ${STDIN})
+set(command ${RUNNER} ${TOOL} ${args})
+set(feed)
+if(STDOUT_FILE)
+    set(redirects OUTPUT_FILE ${STDOUT_FILE})
+else()
+    set(redirects OUTPUT_VARIABLE out)
 endif()
-execute_process(COMMAND ${RUNNER} ${TOOL} ${args} ${input_args}
-    RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+if(STDIN_CLOSED)
+    # execute_process cannot close a descriptor; sh can.
+    set(command sh -c "exec \"$@\" <&-" sh ${command})
+elseif(STDIN AND STDIN_PIPE)
+    set(feed COMMAND cat ${STDIN})
+elseif(STDIN)
+    list(APPEND redirects INPUT_FILE ${STDIN})
+endif()
+execute_process(${feed} COMMAND ${command} ${redirects} RESULT_VARIABLE status ERROR_VARIABLE err)
 set(failed FALSE)
 if(NOT status STREQUAL EXIT)
     message(SEND_ERROR "exit status ${status}, expected ${EXIT}")

@@ -16,6 +16,18 @@ plurex_add_tool_test(text.convert.malformed ARGS text convert --from utf-8 --to 
 plurex_add_tool_test(text.convert.unknown ARGS text convert --from utf-16 --to utf-8 ${text_data}/utf8.txt EXIT 1
     STDERR "^Unknown charset: utf-16\n$")
 plurex_add_tool_test(text.convert.no-file ARGS text convert --from utf-8 --to ascii ${text_data}/missing.txt EXIT 1
-    STDERR "^cannot open .*/missing.txt\n$")
+    STDERR "^cannot open .*/missing.txt: No such file or directory\n$")
+# Lost input or output is an error, never an empty or short result with status 0.
+plurex_add_tool_test(text.convert.directory ARGS text convert --from utf-8 --to ascii ${text_data} EXIT 1
+    STDERR "^cannot read .*/text: Is a directory\n$")
+plurex_add_tool_test(text.convert.full ARGS text convert --from utf-8 --to ascii ${text_data}/utf8.txt
+    STDOUT_FILE /dev/full EXIT 1 STDERR "^cannot write standard output\n$")
+plurex_add_tool_test(text.convert.endless ARGS text convert --from utf-8 --to ascii /dev/zero EXIT 1
+    STDERR "^/dev/zero: more than 67108864 bytes, the most text convert reads\n$")
+# An emulator may hold descriptors of its own, one of which would take the closed standard input's place.
+if(NOT CMAKE_CROSSCOMPILING_EMULATOR)
+    plurex_add_tool_test(text.convert.closed ARGS text convert --from utf-8 --to ascii STDIN_CLOSED EXIT 1
+        STDERR "^cannot read standard input: Bad file descriptor\n$")
+endif()
 plurex_add_tool_test(text.convert.usage ARGS text convert --from utf-8 EXIT 2 STDERR "--to is required")
 plurex_add_tool_test(text.usage ARGS text EXIT 2)

@@ -1,707 +1,64 @@
-// plurex clip new | decode | encode: the 290-byte clip record as JSON and as readable rows.
-//
-// One JSON form serves all three verbs: `new` prints a default clip, `decode` prints a record, `encode`
-// reads the same form back (fields left out keep the default clip's values; unknown fields are
-// refused). Texts are {"text", "unicode"} with "hex" added when the text does not give back the
-// stored bytes; enumerations are names, or numbers where no name reads back to the value; timecodes
-// carry date, time and frame when a builder can make them, and always their count.
+// plurex clip new | decode | encode: the 290-byte clip record as JSON and as readable rows (the forms are
+// in ClipJson.h).
+#include "ClipJson.h"
 #include "Commands.h"
+#include "Files.h"
 #include "Output.h"
 
-#include "PlurexData/PlurexData.h"
-#include "PlurexData/data/clips/detail/TimeCodeFields.h"
+#include "PlurexData/data/clips/Serializer.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <fstream>
 #include <iostream>
-#include <iterator>
-#include <limits>
 #include <memory>
-#include <set>
 #include <string>
-#include <type_traits>
-#include <vector>
 
 namespace PlurexTool {
 
 namespace {
 
-namespace Clips = Korv::Plurex::Data::Clips;
-namespace Essences = Korv::Plurex::Data::Clips::Essences;
-using Clips::Clip;
-using Clips::Serializer;
-using Korv::TimePoints::Rate;
-using Korv::TimePoints::TimeCode;
-using Korv::TimePoints::TimeCodeBuilder;
-using Korv::TimePoints::VideoRates;
-// Fields print in the clip's order.
-using json = nlohmann::ordered_json;
-
-// ---- bytes and text -------------------------------------------------------------------------------
-
-std::string Hex(const unsigned char* bytes, std::size_t size) {
-    static const char digits[] = "0123456789abcdef";
-    std::string text;
-    for (std::size_t i = 0; i < size; ++i) {
-        text += digits[bytes[i] >> 4];
-        text += digits[bytes[i] & 15];
-    }
-    return text;
-}
-
-std::vector<unsigned char> FromHex(const std::string& text, std::size_t size, const std::string& field) {
-    const auto digit = [&](char c) {
-        if (c >= '0' && c <= '9')
-            return c - '0';
-        if (c >= 'a' && c <= 'f')
-            return c - 'a' + 10;
-        if (c >= 'A' && c <= 'F')
-            return c - 'A' + 10;
-        throw Failure(field + ": not hexadecimal: " + text);
-    };
-    if (text.size() != 2 * size) {
-        throw Failure(field + ": " + std::to_string(size) + " bytes expected in hex, got \"" + text + "\"");
-    }
-    std::vector<unsigned char> bytes(size);
-    for (std::size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<unsigned char>(digit(text[2 * i]) * 16 + digit(text[2 * i + 1]));
-    }
-    return bytes;
-}
-
-void AppendUtf8(std::string& text, char32_t c) {
-    if (c < 0x80) {
-        text += static_cast<char>(c);
-    } else if (c < 0x800) {
-        text += static_cast<char>(0xC0 | (c >> 6));
-        text += static_cast<char>(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        text += static_cast<char>(0xE0 | (c >> 12));
-        text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        text += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        text += static_cast<char>(0xF0 | (c >> 18));
-        text += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        text += static_cast<char>(0x80 | (c & 0x3F));
-    }
-}
-
-std::u32string FromUtf8(const std::string& text, const std::string& field) {
-    std::u32string out;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        const std::size_t extra = lead < 0x80 ? 0 : lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-        if ((lead >= 0x80 && lead < 0xC0) || lead >= 0xF8 || i + extra >= text.size() + (extra == 0)) {
-            throw Failure(field + ": text is not UTF-8");
-        }
-        char32_t c = extra == 0 ? lead : lead & (0x3Fu >> extra);
-        for (std::size_t k = 1; k <= extra; ++k) {
-            c = (c << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3Fu);
-        }
-        out += c;
-        i += extra + 1;
-    }
-    return out;
-}
-
-// The readable form of stored text bytes: 8-bit characters as Latin-1, or UTF-16 (the host's byte
-// order, as the clip holds it), each up to its first NUL.
-std::string ReadableText(const unsigned char* bytes, std::size_t size, bool unicode) {
-    std::string text;
-    if (!unicode) {
-        for (std::size_t i = 0; i < size && bytes[i] != 0; ++i) {
-            AppendUtf8(text, bytes[i]);
-        }
-        return text;
-    }
-    for (std::size_t i = 0; i + 1 < size; i += 2) {
-        const char32_t unit = bytes[i] | (bytes[i + 1] << 8);
-        if (unit == 0) {
-            break;
-        }
-        if (unit >= 0xD800 && unit < 0xDC00 && i + 3 < size) {
-            const char32_t low = bytes[i + 2] | (bytes[i + 3] << 8);
-            if (low >= 0xDC00 && low < 0xE000) {
-                AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
-                i += 2;
-                continue;
-            }
-        }
-        AppendUtf8(text, unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit);
-    }
-    return text;
-}
-
-// The inverse of ReadableText, padded with NULs to `size` bytes.
-std::vector<unsigned char> StoredText(const std::string& text, std::size_t size, bool unicode,
-                                      const std::string& field) {
-    std::vector<unsigned char> bytes;
-    for (const char32_t c : FromUtf8(text, field)) {
-        if (!unicode) {
-            if (c > 0xFF) {
-                throw Failure(field + ": a character beyond U+00FF in an 8-bit text");
-            }
-            bytes.push_back(static_cast<unsigned char>(c));
-            continue;
-        }
-        std::vector<char32_t> units{c};
-        if (c >= 0x10000) {
-            units = {0xD800 + ((c - 0x10000) >> 10), 0xDC00 + ((c - 0x10000) & 0x3FF)};
-        }
-        for (const char32_t unit : units) {
-            bytes.push_back(static_cast<unsigned char>(unit & 0xFF));
-            bytes.push_back(static_cast<unsigned char>(unit >> 8));
-        }
-    }
-    if (bytes.size() > size) {
-        throw Failure(field + ": text longer than " + std::to_string(size) + " bytes");
-    }
-    bytes.resize(size, 0);
-    return bytes;
-}
-
-json TextJson(const char* stored, std::size_t size, bool unicode, bool hasFlag) {
-    const auto* bytes = reinterpret_cast<const unsigned char*>(stored);
-    const std::string text = ReadableText(bytes, size, unicode);
-    json out{{"text", text}};
-    if (hasFlag) {
-        out["unicode"] = unicode;
-    }
-    if (StoredText(text, size, unicode, "") != std::vector<unsigned char>(bytes, bytes + size)) {
-        out["hex"] = Hex(bytes, size);
-    }
-    return out;
-}
-
-std::string TextRow(const char* stored, std::size_t size, bool unicode, bool hasFlag) {
-    const json text = TextJson(stored, size, unicode, hasFlag);
-    std::string row = "\"" + text["text"].get<std::string>() + "\"";
-    if (hasFlag) {
-        row += unicode ? " (UTF-16)" : " (8-bit)";
-    }
-    if (text.contains("hex")) {
-        row += " hex " + text["hex"].get<std::string>();
-    }
-    return row;
-}
-
-// ---- reading JSON ------------------------------------------------------------------------------
-
-// The members of a JSON object, each taken once; whatever is left is an unknown field.
-class Fields {
-public:
-    Fields(const json& object, std::string where) : object_(object), where_(std::move(where)) {
-        if (!object_.is_object()) {
-            throw Failure(Name("") + "an object expected");
-        }
-    }
-
-    const json* Take(const std::string& key) {
-        taken_.insert(key);
-        const auto found = object_.find(key);
-        return found == object_.end() ? nullptr : &*found;
-    }
-
-    std::string Name(const std::string& key) const {
-        return where_.empty() ? key : key.empty() ? where_ + ": " : where_ + "." + key;
-    }
-
-    void CheckAllTaken() const {
-        for (const auto& item : object_.items()) {
-            if (taken_.count(item.key()) == 0) {
-                throw Failure("unknown field: " + Name(item.key()));
-            }
-        }
-    }
-
-private:
-    const json& object_;
-    std::string where_;
-    std::set<std::string> taken_;
-};
-
-long long Integer(const json& value, long long low, long long high, const std::string& field) {
-    if (!value.is_number_integer()) {
-        throw Failure(field + ": an integer expected");
-    }
-    long long number = 0;
-    if (value.is_number_unsigned()) {
-        const auto unsignedNumber = value.get<unsigned long long>();
-        if (unsignedNumber > static_cast<unsigned long long>(high)) {
-            throw Failure(field + ": " + value.dump() + " is out of range");
-        }
-        number = static_cast<long long>(unsignedNumber);
-    } else {
-        number = value.get<long long>();
-    }
-    if (number < low || number > high) {
-        throw Failure(field + ": " + value.dump() + " is out of range");
-    }
-    return number;
-}
-
-template <class T>
-void ReadInteger(Fields& fields, const std::string& key, T& target) {
-    if (const json* value = fields.Take(key)) {
-        target = static_cast<T>(
-            Integer(*value, std::numeric_limits<T>::min(), std::numeric_limits<T>::max(), fields.Name(key)));
-    }
-}
-
-void ReadBool(Fields& fields, const std::string& key, bool& target) {
-    if (const json* value = fields.Take(key)) {
-        if (!value->is_boolean()) {
-            throw Failure(fields.Name(key) + ": true or false expected");
-        }
-        target = value->get<bool>();
-    }
-}
-
-// ---- enumerations ------------------------------------------------------------------------------
-
-// An enumeration as its name when the name reads back to the value, else as its number.
-template <class E, class Parse>
-json EnumJson(E value, Parse parse) {
-    const std::string& name = ToString(value);
-    if (parse(name) == value) {
-        return name;
-    }
-    return static_cast<std::int32_t>(value);
-}
-
-template <class E>
-std::string EnumRow(E value, const char* type) {
-    return ToString(value) + " (" + type + " " + std::to_string(static_cast<std::int32_t>(value)) + ")";
-}
-
-template <class E, class Parse>
-E EnumFrom(const json& value, Parse parse, const std::string& field) {
-    if (value.is_string()) {
-        const std::string name = value.get<std::string>();
-        const E parsed = parse(name);
-        if (ToString(parsed) != name) {
-            throw Failure(field + ": unknown name " + name);
-        }
-        return parsed;
-    }
-    return static_cast<E>(Integer(value, INT32_MIN, INT32_MAX, field));
-}
-
-// Every enumerated field of the clip, with its JSON key, its row label and type name.
-template <class Visit>
-void VisitAttributes(Clip& clip, Visit&& visit) {
-    visit("attribute2", clip.attribute2, "ArchiveStatus", Clips::ToArchiveStatus);
-    visit("attribute3", clip.attribute3, "Camera", Clips::ToCamera);
-    visit("attribute4", clip.attribute4, "VideoFormat", Clips::ToVideoFormat);
-    visit("attribute5", clip.attribute5, "AlphaArchiveStatus", Clips::ToAlphaArchiveStatus);
-    visit("attribute6", clip.attribute6, "AudioConfiguration", Clips::ToAudioConfiguration);
-    visit("attribute7", clip.attribute7, "TimecodeType", Clips::ToTimecodeType);
-    visit("attribute8", clip.attribute8, "UserProtect", Clips::ToUserProtect);
-    visit("attribute9", clip.attribute9, "PrimaryTimecode", Clips::ToPrimaryTimecode);
-    visit("attribute10", clip.attribute10, "TrainStatus", Clips::ToTrainStatus);
-    visit("attribute11", clip.attribute11, "Rating", Clips::ToRating);
-    visit("attribute12", clip.attribute12, "FillAndKeyStatus", Clips::ToFillAndKeyStatus);
-    visit("attribute13", clip.attribute13, "WideColorGamut", Clips::ToWideColorGamut);
-    visit("attribute14", clip.attribute14, "HdrProfile", Clips::ToHdrProfile);
-    visit("attribute15", clip.attribute15, "AfdAspectRatio", Clips::ToAfdAspectRatio);
-    visit("attribute16", clip.attribute16, "CodedFrameAspectRatio", Clips::ToCodedFrameAspectRatio);
-    visit("attribute17", clip.attribute17, "UhdDivisionMode", Clips::ToUhdDivisionMode);
-    visit("attribute18", clip.attribute18, "SourceEngine", Clips::ToSourceEngine);
-}
-
-template <class Visit>
-void VisitEssenceEnums(Clip::Essence& essence, Visit&& visit) {
-    visit("metadata", "metadata", essence.metadata, "Metadata", Essences::ToMetadata,
-          [&](Essences::Metadata v) { return essence.Metadata(v); });
-    visit("videoCompressionType", "video compression type", essence.videoCompressionType,
-          "VideoCompressionType", Essences::ToVideoCompressionType,
-          [&](Essences::VideoCompressionType v) { return essence.VideoCompressionType(v); });
-    visit("audioCompressionType", "audio compression type", essence.audioCompressionType,
-          "AudioCompressionType", Essences::ToAudioCompressionType,
-          [&](Essences::AudioCompressionType v) { return essence.AudioCompressionType(v); });
-    visit("videoCompressionInfo", "video compression info", essence.videoCompressionInfo,
-          "VideoCompressionInfo", Essences::ToVideoCompressionInfo,
-          [&](Essences::VideoCompressionInfo v) { return essence.VideoCompressionInfo(v); });
-}
-
-// ---- timecodes -------------------------------------------------------------------------------------
-
-json TimecodeJson(const TimeCode& timeCode) {
-    json out{{"rate", timeCode.GetRate().GetNumerator()},
-             {"drop", timeCode.IsDropFrame()},
-             {"count", timeCode.GetTotalSample()}};
-    Clips::Detail::TimeCodeFields f{};
-    if (timeCode.GetRate().GetDenominator() == 1 && Clips::Detail::SplitTimeCode(timeCode, f)) {
-        char date[32];
-        char time[32];
-        std::snprintf(date, sizeof date, "%04d-%02d-%02d", f.year, f.month, f.day);
-        std::snprintf(time, sizeof time, "%02d:%02d:%02d", f.hour, f.minute, f.second);
-        out["date"] = date;
-        out["time"] = time;
-        out["frame"] = f.frame;
-    }
-    return out;
-}
-
-std::string TimecodeRow(const TimeCode& timeCode) {
-    const json t = TimecodeJson(timeCode);
-    std::string row;
-    if (t.contains("date")) {
-        char frame[16];
-        std::snprintf(frame, sizeof frame, "%c%02d", timeCode.IsDropFrame() ? ';' : ':',
-                      t["frame"].get<int>());
-        row = t["date"].get<std::string>() + " " + t["time"].get<std::string>() + frame + ", ";
-    }
-    row += "count " + std::to_string(timeCode.GetTotalSample()) + " at " +
-           std::to_string(timeCode.GetRate().GetNumerator()) + "/" +
-           std::to_string(timeCode.GetRate().GetDenominator());
-    return row + (timeCode.IsDropFrame() ? " drop-frame" : "");
-}
-
-// A timecode at the clip's rate: from date, time and frame through the builder, or from the count;
-// given both, they must agree.
-TimeCode TimecodeFrom(const json& value, const Rate& clipRate, const std::string& where) {
-    Fields fields(value, where);
-    long long rate = clipRate.GetNumerator();
-    bool drop = false;
-    ReadInteger(fields, "rate", rate);
-    ReadBool(fields, "drop", drop);
-    const json* count = fields.Take("count");
-    const json* date = fields.Take("date");
-    const json* time = fields.Take("time");
-    const json* frame = fields.Take("frame");
-    fields.CheckAllTaken();
-    if (rate != 50 && rate != 60) {
-        throw Failure(fields.Name("rate") + ": 50 or 60 expected");
-    }
-    const Rate& timeRate = rate == 50 ? VideoRates::Rate50() : VideoRates::Rate60();
-    if (date == nullptr && time == nullptr && frame == nullptr) {
-        if (count == nullptr) {
-            throw Failure(where + ": a count, or a date, time and frame expected");
-        }
-        return TimeCode(timeRate, Integer(*count, 0, INT64_MAX, fields.Name("count")), drop);
-    }
-    int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
-    char end = 0;
-    if (date == nullptr || !date->is_string() ||
-        std::sscanf(date->get<std::string>().c_str(), "%d-%d-%d%c", &year, &month, &day, &end) != 3) {
-        throw Failure(fields.Name("date") + ": YYYY-MM-DD expected");
-    }
-    if (time == nullptr || !time->is_string() ||
-        std::sscanf(time->get<std::string>().c_str(), "%d:%d:%d%c", &hour, &minute, &second, &end) != 3) {
-        throw Failure(fields.Name("time") + ": HH:MM:SS expected");
-    }
-    if (frame == nullptr) {
-        throw Failure(fields.Name("frame") + ": a frame number expected");
-    }
-    const auto frameNumber = static_cast<int>(Integer(*frame, INT32_MIN, INT32_MAX, fields.Name("frame")));
-    const TimeCode built =
-        TimeCodeBuilder(year, month, day, hour, minute, second, frameNumber, timeRate, drop).Build();
-    if (count != nullptr && Integer(*count, 0, INT64_MAX, fields.Name("count")) != built.GetTotalSample()) {
-        throw Failure(where + ": count " + count->dump() + " is not " + date->get<std::string>() + " " +
-                      time->get<std::string>() + " frame " + std::to_string(frameNumber) + " (count " +
-                      std::to_string(built.GetTotalSample()) + ")");
-    }
-    return built;
-}
-
-// ---- the clip as JSON and rows -------------------------------------------------------------------
-
-json EssenceJson(Clip::Essence essence) {
-    json out{{"type", EnumJson(essence.type, Essences::ToType)},
-             {"flag", essence.flag},
-             {"field2", essence.field2},
-             {"field4", essence.field4}};
-    VisitEssenceEnums(essence, [&](const char* key, const char*, auto value, const char*, auto parse, auto) {
-        out[key] = EnumJson(value, parse);
-    });
-    out["values"] = {essence.value1, essence.value2, essence.value3, essence.value4};
-    return out;
-}
-
-json ClipJson(Clip clip) {
-    json out;
-    out["text1"] = TextJson(clip.text1, Clip::TextLength, false, false);
-    out["text2"] = TextJson(clip.text2, Clip::TextLength, false, false);
-    out["text3"] = TextJson(clip.text3, Clip::TextLength, false, false);
-    out["text4"] = TextJson(clip.text4, Clip::TextLength, false, false);
-    out["name"] = TextJson(clip.name.text, clip.name.Size, clip.name.unicode, true);
-    out["varId"] = TextJson(clip.varId.text, clip.varId.Size, clip.varId.unicode, true);
-    for (const auto& keyword : clip.keywords) {
-        out["keywords"].push_back(TextJson(keyword.text, keyword.Size, keyword.unicode, true));
-    }
-    out["rawBytes"] = Hex(clip.rawBytes, sizeof clip.rawBytes);
-    out["is3D"] = clip.is3D;
-    out["isDual"] = clip.isDual;
-    out["isTwinRec"] = clip.isTwinRec;
-    out["isLegacyTimecodeDrop"] = clip.isLegacyTimecodeDrop;
-    out["attribute1"] = clip.attribute1;
-    VisitAttributes(clip, [&](const char* key, auto value, const char*, auto parse) {
-        out[key] = EnumJson(value, parse);
-    });
-    out["videoStandard"] = EnumJson(clip.videoStandard, Clips::ToVideoStandard);
-    out["inPosition"] = clip.inPosition;
-    out["shortInPosition"] = clip.shortInPosition;
-    out["shortOutPosition"] = clip.shortOutPosition;
-    out["outPosition"] = clip.outPosition;
-    out["value1"] = clip.value1;
-    out["shortValue1"] = clip.shortValue1;
-    out["value2"] = clip.value2;
-    out["value3"] = clip.value3;
-    out["shortValue2"] = clip.shortValue2;
-    out["value4"] = clip.value4;
-    out["byteValue"] = clip.byteValue;
-    out["value5"] = clip.value5;
-    out["inBoundTodTimecode"] = TimecodeJson(clip.inBoundTodTimecode);
-    out["inBoundUserTimecode"] = TimecodeJson(clip.inBoundUserTimecode);
-    out["value64"] = clip.value64;
-    for (const auto& essence : clip.essences) {
-        out["essences"].push_back(EssenceJson(essence));
-    }
-    return out;
-}
-
-Rows ClipRows(Clip clip) {
-    Rows rows;
-    const char* texts[] = {clip.text1, clip.text2, clip.text3, clip.text4};
-    for (int i = 0; i < 4; ++i) {
-        rows.emplace_back("text " + std::to_string(i + 1), TextRow(texts[i], Clip::TextLength, false, false));
-    }
-    rows.emplace_back("name", TextRow(clip.name.text, clip.name.Size, clip.name.unicode, true));
-    rows.emplace_back("var-id", TextRow(clip.varId.text, clip.varId.Size, clip.varId.unicode, true));
-    for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-        const auto& keyword = clip.keywords[k];
-        rows.emplace_back("keyword " + std::to_string(k),
-                          TextRow(keyword.text, keyword.Size, keyword.unicode, true));
-    }
-    rows.emplace_back("raw bytes", Hex(clip.rawBytes, sizeof clip.rawBytes));
-    rows.emplace_back("3D", YesNo(clip.is3D));
-    rows.emplace_back("dual", YesNo(clip.isDual));
-    rows.emplace_back("twin-rec", YesNo(clip.isTwinRec));
-    rows.emplace_back("legacy drop", YesNo(clip.isLegacyTimecodeDrop));
-    rows.emplace_back("attribute 1", std::to_string(clip.attribute1));
-    VisitAttributes(clip, [&](const char* key, auto value, const char* type, auto) {
-        rows.emplace_back("attribute " + std::string(key + 9), EnumRow(value, type));
-    });
-    rows.emplace_back("video standard", EnumRow(clip.videoStandard, "VideoStandard"));
-    rows.emplace_back("in position", std::to_string(clip.inPosition));
-    rows.emplace_back("short-in position", std::to_string(clip.shortInPosition));
-    rows.emplace_back("short-out position", std::to_string(clip.shortOutPosition));
-    rows.emplace_back("out position", std::to_string(clip.outPosition));
-    rows.emplace_back("value 1", std::to_string(clip.value1));
-    rows.emplace_back("short value 1", std::to_string(clip.shortValue1));
-    rows.emplace_back("value 2", std::to_string(clip.value2));
-    rows.emplace_back("value 3", std::to_string(clip.value3));
-    rows.emplace_back("short value 2", std::to_string(clip.shortValue2));
-    rows.emplace_back("value 4", std::to_string(clip.value4));
-    rows.emplace_back("byte value", std::to_string(clip.byteValue));
-    rows.emplace_back("value 5", std::to_string(clip.value5));
-    rows.emplace_back("Tod timecode", TimecodeRow(clip.inBoundTodTimecode));
-    rows.emplace_back("user timecode", TimecodeRow(clip.inBoundUserTimecode));
-    rows.emplace_back("64-bit value", std::to_string(clip.value64));
-    for (int i = 0; i < 3; ++i) {
-        Clip::Essence& essence = clip.essences[i];
-        const std::string label = "essence " + std::to_string(i + 1) + " ";
-        rows.emplace_back(label + "type", EnumRow(essence.type, "Type"));
-        rows.emplace_back(label + "flag", std::to_string(essence.flag));
-        rows.emplace_back(label + "field 2", std::to_string(essence.field2));
-        rows.emplace_back(label + "field 4", std::to_string(essence.field4));
-        VisitEssenceEnums(essence, [&](const char*, const char* name, auto value, const char* type, auto,
-                                       auto) { rows.emplace_back(label + name, EnumRow(value, type)); });
-        rows.emplace_back(label + "values",
-                          std::to_string(essence.value1) + " " + std::to_string(essence.value2) + " " +
-                              std::to_string(essence.value3) + " " + std::to_string(essence.value4));
-    }
-    return rows;
-}
-
-// The stored bytes of a text object: {"text"} (8-bit, or UTF-16 when "unicode" is set), or "hex".
-// `unicode` is null for the 8-character texts, which have no flag.
-std::vector<unsigned char> TextFrom(const json& value, std::size_t size, bool* unicode,
-                                    const std::string& where) {
-    Fields text(value, where);
-    if (unicode != nullptr) {
-        ReadBool(text, "unicode", *unicode);
-    }
-    const json* readable = text.Take("text");
-    const json* hex = text.Take("hex");
-    text.CheckAllTaken();
-    if (hex != nullptr) {
-        return FromHex(hex->is_string() ? hex->get<std::string>() : hex->dump(), size, text.Name("hex"));
-    }
-    if (readable == nullptr || !readable->is_string()) {
-        throw Failure(text.Name("text") + ": a text expected");
-    }
-    return StoredText(readable->get<std::string>(), size, unicode != nullptr && *unicode, text.Name("text"));
-}
-
-template <std::size_t N>
-void ReadClipText(const json* value, Clip::Text<N>& target, const std::string& where) {
-    if (value != nullptr) {
-        const std::vector<unsigned char> bytes = TextFrom(*value, N, &target.unicode, where);
-        std::copy(bytes.begin(), bytes.end(), target.text);
-    }
-}
-
-void ReadShortText(Fields& fields, const std::string& key, char* target) {
-    if (const json* value = fields.Take(key)) {
-        const std::vector<unsigned char> bytes = TextFrom(*value, Clip::TextLength, nullptr, key);
-        std::copy(bytes.begin(), bytes.end(), target);
-    }
-}
-
-Clip::Essence EssenceFrom(const json& value, Clips::Essences::Type type, const std::string& where) {
-    Clip::Essence essence(type);
-    Fields fields(value, where);
-    if (const json* given = fields.Take("type")) {
-        if (EnumFrom<Essences::Type>(*given, Essences::ToType, fields.Name("type")) != type) {
-            throw Failure(fields.Name("type") + ": the slot makes it " + ToString(type));
-        }
-    }
-    ReadInteger(fields, "flag", essence.flag);
-    ReadInteger(fields, "field2", essence.field2);
-    ReadInteger(fields, "field4", essence.field4);
-    VisitEssenceEnums(essence, [&](const char* key, const char*, auto, const char*, auto parse, auto set) {
-        if (const json* given = fields.Take(key)) {
-            using E = decltype(parse(std::string()));
-            const E wanted = EnumFrom<E>(*given, parse, fields.Name(key));
-            if (!set(wanted)) {
-                throw Failure(fields.Name(key) + ": " + ToString(wanted) + " (" +
-                              std::to_string(static_cast<std::int32_t>(wanted)) + ") does not suit a " +
-                              ToString(type) + " essence");
-            }
-        }
-    });
-    if (const json* values = fields.Take("values")) {
-        if (!values->is_array() || values->size() != 4) {
-            throw Failure(fields.Name("values") + ": four integers expected");
-        }
-        std::int32_t* targets[] = {&essence.value1, &essence.value2, &essence.value3, &essence.value4};
-        for (std::size_t i = 0; i < 4; ++i) {
-            *targets[i] = static_cast<std::int32_t>(Integer(
-                (*values)[i], INT32_MIN, INT32_MAX, fields.Name("values") + "[" + std::to_string(i) + "]"));
-        }
-    }
-    fields.CheckAllTaken();
-    return essence;
-}
-
-// The clip the JSON describes, through the library's own setters: the standard first, then the
-// timecodes at its rate.
-Clip ClipFrom(const json& document) {
-    Clip clip;
-    Fields fields(document, "");
-    ReadShortText(fields, "text1", clip.text1);
-    ReadShortText(fields, "text2", clip.text2);
-    ReadShortText(fields, "text3", clip.text3);
-    ReadShortText(fields, "text4", clip.text4);
-    ReadClipText(fields.Take("name"), clip.name, "name");
-    ReadClipText(fields.Take("varId"), clip.varId, "varId");
-    if (const json* keywords = fields.Take("keywords")) {
-        if (!keywords->is_array() || keywords->size() != Clip::KeywordCount) {
-            throw Failure("keywords: five texts expected");
-        }
-        for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-            ReadClipText(&(*keywords)[k], clip.keywords[k], "keywords[" + std::to_string(k) + "]");
-        }
-    }
-    if (const json* raw = fields.Take("rawBytes")) {
-        const auto bytes = FromHex(raw->is_string() ? raw->get<std::string>() : raw->dump(), 8, "rawBytes");
-        std::copy(bytes.begin(), bytes.end(), clip.rawBytes);
-    }
-    ReadBool(fields, "is3D", clip.is3D);
-    ReadBool(fields, "isDual", clip.isDual);
-    ReadBool(fields, "isTwinRec", clip.isTwinRec);
-    bool legacyDrop = false;
-    ReadBool(fields, "isLegacyTimecodeDrop", legacyDrop);
-    ReadInteger(fields, "attribute1", clip.attribute1);
-    VisitAttributes(clip, [&](const char* key, auto& target, const char*, auto parse) {
-        if (const json* given = fields.Take(key)) {
-            target = EnumFrom<std::decay_t<decltype(target)>>(*given, parse, key);
-        }
-    });
-    if (const json* standard = fields.Take("videoStandard")) {
-        clip.VideoStandard(
-            EnumFrom<Clips::VideoStandard>(*standard, Clips::ToVideoStandard, "videoStandard"));
-    }
-    clip.isLegacyTimecodeDrop = legacyDrop;
-    ReadInteger(fields, "inPosition", clip.inPosition);
-    ReadInteger(fields, "shortInPosition", clip.shortInPosition);
-    ReadInteger(fields, "shortOutPosition", clip.shortOutPosition);
-    ReadInteger(fields, "outPosition", clip.outPosition);
-    ReadInteger(fields, "value1", clip.value1);
-    ReadInteger(fields, "shortValue1", clip.shortValue1);
-    ReadInteger(fields, "value2", clip.value2);
-    ReadInteger(fields, "value3", clip.value3);
-    ReadInteger(fields, "shortValue2", clip.shortValue2);
-    ReadInteger(fields, "value4", clip.value4);
-    ReadInteger(fields, "byteValue", clip.byteValue);
-    ReadInteger(fields, "value5", clip.value5);
-    if (const json* tod = fields.Take("inBoundTodTimecode")) {
-        clip.InBoundTodTimecode(TimecodeFrom(*tod, clip.GetRate(), "inBoundTodTimecode"));
-    }
-    if (const json* user = fields.Take("inBoundUserTimecode")) {
-        clip.InBoundUserTimecode(TimecodeFrom(*user, clip.GetRate(), "inBoundUserTimecode"));
-    }
-    ReadInteger(fields, "value64", clip.value64);
-    if (const json* essences = fields.Take("essences")) {
-        if (!essences->is_array() || essences->size() != 3) {
-            throw Failure("essences: three essences expected");
-        }
-        for (std::size_t i = 0; i < 3; ++i) {
-            clip.essences[i] =
-                EssenceFrom((*essences)[i], clip.essences[i].type, "essences[" + std::to_string(i) + "]");
-        }
-    }
-    fields.CheckAllTaken();
-    return clip;
-}
-
-std::vector<unsigned char> ReadFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw Failure("cannot read " + path);
-    }
-    return std::vector<unsigned char>(std::istreambuf_iterator<char>(file), {});
-}
-
-// ---- verbs ------------------------------------------------------------------------------------------
+using Korv::Plurex::Data::Clips::Clip;
+using Korv::Plurex::Data::Clips::Serializer;
 
 void PrintClip(const Options& options, const Clip& clip) {
     if (options.json) {
-        // As Print does, with the fields kept in order.
-        std::cout << ClipJson(clip).dump(2, ' ', false, json::error_handler_t::replace) << '\n';
+        std::cout << ClipJsonText(clip) << '\n';
     } else {
-        Print(options, nlohmann::json(), ClipRows(clip));
+        Print(options, nlohmann::json(), ClipToRows(clip));
     }
+}
+
+// An offset goes to a seek, which takes 0 to 2^63 - 1. CLI11 alone would read "-1" as 2^64 - 1.
+CLI::Validator ByteOffset() {
+    return CLI::Validator(
+        [](std::string& text) {
+            std::uint64_t offset = 0;
+            if (text.find('-') != std::string::npos || !CLI::detail::lexical_cast(text, offset) ||
+                offset > static_cast<std::uint64_t>(INT64_MAX)) {
+                return "an offset from 0 to " + std::to_string(INT64_MAX) + " expected: " + text;
+            }
+            return std::string();
+        },
+        "");
 }
 
 struct DecodeValues {
     std::string path;
     bool bigEndian = false;
-    unsigned long long offset = 0;
+    std::uint64_t offset = 0;
 };
 
+// Reads the record only: a seek (or, on a pipe, a bounded skip) to the offset, then 290 bytes.
 void Decode(const Options& options, const DecodeValues& values) {
-    const std::vector<unsigned char> bytes = ReadFile(values.path);
-    const std::size_t available = values.offset < bytes.size() ? bytes.size() - values.offset : 0;
-    // The clip starts at the record's own standard, as at a client already running it: its legacy drop
-    // flag is read only by an Ntsc clip.
-    Clip clip;
-    if (available >= Serializer::RecordSize) {
-        clip.VideoStandard(static_cast<Clips::VideoStandard>(bytes[values.offset + 173]));
-    }
-    const auto size = static_cast<unsigned int>(std::min<std::size_t>(available, UINT32_MAX));
-    if (Serializer::LoadFromBuffer(bytes.data() + (available > 0 ? values.offset : 0), size, clip,
-                                   values.bigEndian) == 0) {
-        throw Failure(values.path + ": " + std::to_string(available) + " bytes at offset " +
+    Input input(values.path);
+    input.Skip(values.offset);
+    unsigned char record[Serializer::RecordSize];
+    const std::size_t got = input.Read(record, sizeof record);
+    if (got < sizeof record) {
+        throw Failure(values.path + ": " + std::to_string(got) + " bytes at offset " +
                       std::to_string(values.offset) + ", a clip record takes " +
                       std::to_string(Serializer::RecordSize));
     }
-    PrintClip(options, clip);
+    PrintClip(options, DecodeRecord(record, values.bigEndian));
 }
 
 struct EncodeValues {
@@ -710,22 +67,13 @@ struct EncodeValues {
     bool bigEndian = false;
 };
 
+// The output file is made only once the clip is known to be good.
 void Encode(const EncodeValues& values) {
-    const std::vector<unsigned char> text = ReadFile(values.input);
-    json document;
-    try {
-        document = json::parse(text.begin(), text.end());
-    } catch (const json::parse_error& error) {
-        throw Failure(values.input + ": " + error.what());
-    }
-    const Clip clip = ClipFrom(document);
+    Input input(values.input);
+    const Clip clip = ParseClipJson(input.ReadAll(MaxClipJsonSize, "clip encode"), values.input);
     unsigned char record[Serializer::RecordSize] = {};
     const unsigned int written = Serializer::SaveToBuffer(clip, record, sizeof record, values.bigEndian);
-    std::ofstream file(values.output, std::ios::binary | std::ios::trunc);
-    file.write(reinterpret_cast<const char*>(record), written);
-    if (!file.flush()) {
-        throw Failure("cannot write " + values.output);
-    }
+    WriteFile(values.output, record, written);
 }
 
 }  // namespace
@@ -741,7 +89,10 @@ void AddClipCommands(CLI::App& root, const Options& options) {
     auto decodeValues = std::make_shared<DecodeValues>();
     decode->add_option("FILE", decodeValues->path, "The file holding the record")->required();
     decode->add_flag("--big-endian", decodeValues->bigEndian, "The record's numbers are big-endian");
-    decode->add_option("--offset", decodeValues->offset, "Where the record starts in the file")
+    decode
+        ->add_option("--offset", decodeValues->offset,
+                     "Where the record starts in the file, in bytes (0 to 2^63 - 1)")
+        ->check(ByteOffset())
         ->capture_default_str();
     decode->callback([&options, decodeValues] { Decode(options, *decodeValues); });
 
@@ -749,7 +100,9 @@ void AddClipCommands(CLI::App& root, const Options& options) {
     auto encodeValues = std::make_shared<EncodeValues>();
     encode
         ->add_option("JSON_FILE", encodeValues->input,
-                     "The clip, in the form clip new and decode --json print")
+                     "The clip, in the form clip new and decode --json print; at most " +
+                         std::to_string(MaxClipJsonSize >> 20) + " MiB, nested at most " +
+                         std::to_string(MaxClipJsonDepth) + " levels")
         ->required();
     encode->add_option("-o,--output", encodeValues->output, "The record file to write")->required();
     encode->add_flag("--big-endian", encodeValues->bigEndian, "Write the numbers big-endian");

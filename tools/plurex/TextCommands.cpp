@@ -1,14 +1,14 @@
 // plurex text convert | charsets
 #include "Commands.h"
+#include "Files.h"
 #include "Output.h"
 
 #include "PlurexData/unicode/Charset.h"
 #include "PlurexData/unicode/Transcode.h"
 
-#include <fstream>
+#include <cstddef>
 #include <iostream>
 #include <memory>
-#include <sstream>
 #include <string>
 
 namespace PlurexTool {
@@ -17,25 +17,16 @@ namespace {
 
 namespace Unicode = Korv::Plurex::Unicode;
 
-std::string ReadAll(std::istream& in) {
-    std::ostringstream bytes;
-    // Inserting an empty stream's buffer counts as a failure; an empty input is not one.
-    if (in.peek() != std::istream::traits_type::eof()) {
-        bytes << in.rdbuf();
-    }
-    return bytes.str();
-}
+// Transcoding takes the whole text at once; beyond this an endless input (/dev/zero) would take all
+// memory.
+constexpr std::size_t MaxTextSize = 64 * 1024 * 1024;
 
 // The bytes of FILE, or of standard input for "-" or no file.
 std::string ReadInput(const std::string& path) {
     if (path.empty() || path == "-") {
-        return ReadAll(std::cin);
+        return Input().ReadAll(MaxTextSize, "text convert");
     }
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw Failure("cannot open " + path);
-    }
-    return ReadAll(file);
+    return Input(path).ReadAll(MaxTextSize, "text convert");
 }
 
 void AddConvert(CLI::App& text) {
@@ -44,7 +35,10 @@ void AddConvert(CLI::App& text) {
     };
     auto values = std::make_shared<Values>();
     auto* convert = text.add_subcommand(
-        "convert", "Convert text between charsets, standard input to standard output unless FILE is given");
+        "convert",
+        "Convert text between charsets, standard input to standard output unless FILE is given; at "
+        "most " +
+            std::to_string(MaxTextSize >> 20) + " MiB");
     convert->add_option("--from", values->from, "The charset of the input (see: plurex text charsets)")
         ->required();
     convert->add_option("--to", values->to, "The charset to write")->required();
@@ -55,7 +49,6 @@ void AddConvert(CLI::App& text) {
         const Unicode::Charset to = Unicode::ToCharset(values->to);
         const std::string output = Unicode::Transcode(ReadInput(values->file), from, to);
         std::cout.write(output.data(), static_cast<std::streamsize>(output.size()));
-        std::cout.flush();
     });
 }
 

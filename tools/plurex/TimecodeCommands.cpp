@@ -120,9 +120,15 @@ void AddCheck(CLI::App& timecode, const Options& options) {
         ParseTime(values->time, time, semicolon);
         ParseRate(values->rate, numerator, denominator);
         const bool drop = values->drop || semicolon;
-        const TimeCode timeCode = TimeCodeBuilder(date[0], date[1], date[2], time[0], time[1], time[2],
-                                                  time[3], Rate(numerator, denominator), drop)
-                                      .Build();
+        const TimeCodeBuilder builder(date[0], date[1], date[2], time[0], time[1], time[2], time[3],
+                                      Rate(numerator, denominator), drop);
+        builder.IsValidToBuildWithexception();
+        // The builder counts a negative frame back into the previous second; no timecode is written so.
+        // Checked after the builder's own checks, whose messages keep their order.
+        if (time[3] < 0) {
+            throw Failure("frame " + std::to_string(time[3]) + " must not be negative");
+        }
+        const TimeCode timeCode = builder.Build();
         Print(options,
               nlohmann::json{{"valid", true},
                              {"total_sample", timeCode.GetTotalSample()},

@@ -30,14 +30,19 @@ int main(int argc, char** argv) {
     PlurexTool::AddEnumCommands(app, options);
     PlurexTool::AddTextCommands(app, options);
 
+    int status = 0;
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        const int status = app.exit(error);
-        return status == 0 ? 0 : 2;
+        status = app.exit(error) == 0 ? 0 : 2;
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;
     }
-    return 0;
+    // Output lost on the way (a full disk, /dev/full) fails the run, also for --help and --version.
+    if (!std::cout.flush()) {
+        std::cerr << "cannot write standard output\n";
+        return 1;
+    }
+    return status;
 }
