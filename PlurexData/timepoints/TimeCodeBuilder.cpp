@@ -94,8 +94,19 @@ TimeCode TimeCodeBuilder::Build() const {
     const long long days = CalendarTools::DaysSince1900(year_, month_, day_);
     const long long seconds = ((days * 24 + hour_) * 60 + minute_) * 60 + second_;
     long long count = 0;
-    if (__builtin_mul_overflow(seconds, numerator, &count) ||
-        __builtin_add_overflow(count, static_cast<long long>(sample_), &count)) {
+    bool overflow = false;
+    if (numerator > 0) {
+        // seconds is never negative. The product may pass 2^63 while the count, after a negative
+        // sample, still fits: it is formed unsigned, and only the sum has to fit.
+        unsigned long long product = 0;
+        overflow = __builtin_mul_overflow(static_cast<unsigned long long>(seconds),
+                                          static_cast<unsigned long long>(numerator), &product) ||
+                   __builtin_add_overflow(product, static_cast<long long>(sample_), &count);
+    } else {
+        overflow = __builtin_mul_overflow(seconds, numerator, &count) ||
+                   __builtin_add_overflow(count, static_cast<long long>(sample_), &count);
+    }
+    if (overflow) {
         Fail("TotalSample does not fit in 64 bits at rate %lld / 1", numerator);
     }
     if (drop_) {

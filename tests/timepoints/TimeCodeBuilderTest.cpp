@@ -4,6 +4,7 @@
 
 #include <climits>
 #include <ctime>
+#include <limits>
 #include <stdexcept>
 #include <string>
 
@@ -257,4 +258,8 @@ TEST(TimeCodeBuilder, CountsThatCannotBeHeldThrow) {
     } catch (const std::out_of_range& e) {
         EXPECT_STREQ(e.what(), "TotalSample does not fit in 64 bits at rate 1000000000 / 1");
     }
+    // 64 seconds at 2^57 is 2^63 samples, one past the range; a negative sample brings the count
+    // back into it, and only the count has to fit.
+    const Fields edge{1900, 1, 1, 0, 1, 4, -68, Rate(1LL << 57, 1), false};
+    EXPECT_EQ(Count(edge), std::numeric_limits<long long>::max() - 67);
 }
