@@ -123,6 +123,7 @@
 #include "PlurexData/timepoints/Rate.h"
 #include "PlurexData/timepoints/TimeCode.h"
 #include "PlurexData/timepoints/TimeCodeBuilder.h"
+#include "PlurexData/timepoints/TimeCodeFields.h"
 #include "PlurexData/timepoints/TimePoint.h"
 #include "PlurexData/timepoints/VideoRates.h"
 #include "PlurexData/unicode/ByteOrder.h"

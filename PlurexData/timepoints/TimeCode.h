@@ -3,6 +3,10 @@
 #include "PlurexData/Export.h"
 #include "PlurexData/timepoints/Rate.h"
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 namespace Korv::TimePoints {
 
 /// A position in time: the number of samples at `rate` since 1 January 1900 00:00:00 (which is
@@ -23,6 +27,23 @@ public:
     constexpr bool IsDropFrame() const noexcept { return drop_; }
     /// The flag byte, carried and compared but not interpreted.
     constexpr unsigned char GetFlag() const noexcept { return flag_; }
+
+    /// "YYYY-MM-DD HH:MM:SS:FF", with ";" before the frame of a drop-frame timecode, for every
+    /// timecode TimeCodeBuilder::FromTimeCode splits; the frame takes at least two digits. Any other
+    /// timecode, which no builder makes, reads "TotalSample <count> at <n>/<d>", with " drop-frame"
+    /// added for the drop marker: this never throws for lack of a date, so it is safe in a log line.
+    std::string ToString() const;
+    /// The time of day of ToString: "HH:MM:SS:FF" (";" before the frame for drop-frame), or the same
+    /// "TotalSample" form for a timecode no builder makes.
+    std::string ToTimeOfDayString() const;
+    /// The timecode at `rate` (flag byte 0) of "YYYY-MM-DD HH:MM:SS:FF" or "HH:MM:SS:FF", the date
+    /// 1900-01-01 when left out; ";" before the frame builds a drop-frame timecode. Two digits for each
+    /// field but the year (four) and the frame (two to nine), nothing before or after. Other text
+    /// throws std::invalid_argument("Invalid timecode text: " followed by the text); fields that do not
+    /// build throw TimeCodeBuilder's std::out_of_range, with its message.
+    static TimeCode Parse(std::string_view text, const Rate& rate);
+    /// Parse, empty instead of either exception.
+    static std::optional<TimeCode> TryParse(std::string_view text, const Rate& rate);
 
     /// Field by field: rate (numerator and denominator), both flags and the count.
     ///@{

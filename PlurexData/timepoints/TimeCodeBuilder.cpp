@@ -2,6 +2,7 @@
 
 #include "PlurexData/timepoints/CalendarTools.h"
 
+#include <climits>
 #include <cstdarg>
 #include <cstdio>
 #include <stdexcept>
@@ -24,7 +25,123 @@ void Fail(const char* format, ...) {
     throw std::out_of_range(message);
 }
 
+// Why a timecode has no builder; None when it has one.
+enum class SplitFailure { None, Denominator, Rate, Negative, DropRate, Sample, Year };
+
+// The civil date of a day count from 1 January 1900 (proleptic Gregorian, days >= 0): the 400-year
+// cycle split of the civil-from-days algorithm, on an era that starts on 1 March of year 0. The year
+// is wide: a count far past 2261 must still name its year in the message.
+void DateFromDays(long long days, long long& year, int& month, int& day) noexcept {
+    // 1 January 1900 is day 693901 after 1 March of year 0.
+    const long long z = days + 693901;
+    const long long era = z / 146097;
+    const long long dayOfEra = z - era * 146097;
+    const long long yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const long long dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
+    const long long shiftedMonth = (5 * dayOfYear + 2) / 153;  // 0 is March
+    month = static_cast<int>(shiftedMonth < 10 ? shiftedMonth + 3 : shiftedMonth - 9);
+    year = yearOfEra + era * 400 + (month <= 2 ? 1 : 0);
+    day = static_cast<int>(dayOfYear - (153 * shiftedMonth + 2) / 5 + 1);
+}
+
+// The fields TimeCodeBuilder builds `timeCode` from. On failure `fields.sample` or `year` hold the
+// value the message names.
+SplitFailure Split(const TimeCode& timeCode, TimeCodeFields& fields, long long& year) noexcept {
+    const long long rate = timeCode.GetRate().GetNumerator();
+    const long long count = timeCode.GetTotalSample();
+    if (timeCode.GetRate().GetDenominator() != 1) {
+        return SplitFailure::Denominator;
+    }
+    if (rate <= 0) {
+        return SplitFailure::Rate;
+    }
+    if (count < 0) {
+        return SplitFailure::Negative;
+    }
+    long long minutes = 0;
+    long long second = 0;
+    long long sample = 0;
+    if (timeCode.IsDropFrame()) {
+        if (rate != 30 && rate != 60) {
+            return SplitFailure::DropRate;
+        }
+        // Every minute but the tenth leaves out its first `dropped` labels, which the count skips.
+        const long long dropped = rate / 15;
+        const long long perMinute = 60 * rate;
+        const long long perTenMinutes = 10 * perMinute - 9 * dropped;
+        const long long rest = count % perTenMinutes;
+        long long inMinute = rest;  // the sample number within the minute, as labelled
+        minutes = count / perTenMinutes * 10;
+        if (rest >= perMinute) {
+            minutes += 1 + (rest - perMinute) / (perMinute - dropped);
+            inMinute = (rest - perMinute) % (perMinute - dropped) + dropped;
+        }
+        second = inMinute / rate;
+        sample = inMinute % rate;
+    } else {
+        // Divided before anything is multiplied, so that no rate overflows.
+        const long long seconds = count / rate;
+        minutes = seconds / 60;
+        second = seconds % 60;
+        sample = count % rate;
+    }
+    if (sample > INT_MAX) {
+        year = sample;
+        return SplitFailure::Sample;
+    }
+    int month = 0;
+    int day = 0;
+    DateFromDays(minutes / 1440, year, month, day);
+    if (year > lastYear) {
+        return SplitFailure::Year;
+    }
+    fields = TimeCodeFields{static_cast<int>(year), month, day, static_cast<int>(minutes % 1440 / 60),
+                            static_cast<int>(minutes % 60), static_cast<int>(second), static_cast<int>(sample)};
+    return SplitFailure::None;
+}
+
 }  // namespace
+
+TimeCodeBuilder::TimeCodeBuilder(const TimeCodeFields& fields, const Rate& rate, bool drop,
+                                 unsigned char flag) noexcept
+    : TimeCodeBuilder(fields.year, fields.month, fields.day, fields.hour, fields.minute, fields.second,
+                      fields.sample, rate, drop, flag) {}
+
+TimeCodeBuilder TimeCodeBuilder::FromTimeCode(const TimeCode& timeCode) {
+    TimeCodeFields fields{};
+    long long value = 0;
+    const long long numerator = timeCode.GetRate().GetNumerator();
+    switch (Split(timeCode, fields, value)) {
+        case SplitFailure::None:
+            break;
+        case SplitFailure::Denominator:
+            Fail("Denominator %lld must be between equals to 1", timeCode.GetRate().GetDenominator());
+        case SplitFailure::Rate:
+            Fail("Rate %lld / 1 is not positive", numerator);
+        case SplitFailure::Negative:
+            Fail("TotalSample %lld is negative", timeCode.GetTotalSample());
+        case SplitFailure::DropRate:
+            Fail("Rate %lld / 1 is not compatible with drop TC format", numerator);
+        case SplitFailure::Sample:
+            Fail("Sample %lld does not fit in 32 bits", value);
+        case SplitFailure::Year:
+            Fail("year %lld must be between %d and %d", value, firstYear, lastYear);
+    }
+    return TimeCodeBuilder(fields, timeCode.GetRate(), timeCode.IsDropFrame(), timeCode.GetFlag());
+}
+
+std::optional<TimeCodeBuilder> TimeCodeBuilder::TryFromTimeCode(const TimeCode& timeCode) noexcept {
+    TimeCodeFields fields{};
+    long long value = 0;
+    if (Split(timeCode, fields, value) != SplitFailure::None) {
+        return std::nullopt;
+    }
+    return TimeCodeBuilder(fields, timeCode.GetRate(), timeCode.IsDropFrame(), timeCode.GetFlag());
+}
+
+TimeCodeFields TimeCodeBuilder::GetFields() const noexcept {
+    return TimeCodeFields{year_, month_, day_, hour_, minute_, second_, sample_};
+}
 
 TimeCodeBuilder::TimeCodeBuilder(int year, int month, int day, int hour, int minute, int second, int sample,
                                  const Rate& rate, bool drop, unsigned char flag) noexcept

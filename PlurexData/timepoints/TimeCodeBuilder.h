@@ -3,6 +3,9 @@
 #include "PlurexData/Export.h"
 #include "PlurexData/timepoints/Rate.h"
 #include "PlurexData/timepoints/TimeCode.h"
+#include "PlurexData/timepoints/TimeCodeFields.h"
+
+#include <optional>
 
 namespace Korv::TimePoints {
 
@@ -14,6 +17,31 @@ public:
     /// IsValidToBuildWithexception or Build.
     TimeCodeBuilder(int year, int month, int day, int hour, int minute, int second, int sample,
                     const Rate& rate, bool drop = false, unsigned char flag = 0) noexcept;
+    /// The same from a TimeCodeFields.
+    TimeCodeBuilder(const TimeCodeFields& fields, const Rate& rate, bool drop = false,
+                    unsigned char flag = 0) noexcept;
+
+    /// The builder whose Build gives `timeCode` back exactly (rate, count, drop and flag byte): its
+    /// date, time of day and frame, drop-frame counting included. A negative sample given to a builder
+    /// counts back into the second before, so the fields come back with the sample from 0, the
+    /// second earlier. Throws std::out_of_range for a timecode that no builder makes, naming the
+    /// first reason in this order: "Denominator <d> must be between equals to 1", "Rate <n> / 1 is not
+    /// positive", "TotalSample <count> is negative", "Rate <n> / 1 is not compatible with drop TC
+    /// format" (drop-frame at a rate other than 30 and 60), "Sample <frame> does not fit in 32 bits"
+    /// (a frame number no int holds, at a rate above 2^31) and "year <year> must be between 1900 and
+    /// 2261".
+    static TimeCodeBuilder FromTimeCode(const TimeCode& timeCode);
+    /// FromTimeCode, empty instead of throwing.
+    static std::optional<TimeCodeBuilder> TryFromTimeCode(const TimeCode& timeCode) noexcept;
+
+    /// The fields as given.
+    TimeCodeFields GetFields() const noexcept;
+    /// The rate as given.
+    const Rate& GetRate() const noexcept { return rate_; }
+    /// Whether a drop-frame timecode is to be built.
+    bool IsDropFrame() const noexcept { return drop_; }
+    /// The flag byte passed on to the timecode.
+    unsigned char GetFlag() const noexcept { return flag_; }
 
     /// True when the fields can be built into a timecode; otherwise throws std::out_of_range naming
     /// the first field that fails, in this order: year (1900 to 2261), month, day of that month,

@@ -2,7 +2,6 @@
 #include "ClipJson.h"
 
 #include "PlurexData/PlurexData.h"
-#include "PlurexData/data/clips/detail/TimeCodeFields.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -338,27 +337,23 @@ json TimecodeJson(const TimeCode& timeCode) {
     json out{{"rate", timeCode.GetRate().GetNumerator()},
              {"drop", timeCode.IsDropFrame()},
              {"count", timeCode.GetTotalSample()}};
-    Clips::Detail::TimeCodeFields f{};
-    if (timeCode.GetRate().GetDenominator() == 1 && Clips::Detail::SplitTimeCode(timeCode, f)) {
+    if (const auto split = TimeCodeBuilder::TryFromTimeCode(timeCode)) {
+        const Korv::TimePoints::TimeCodeFields f = split->GetFields();
         char date[32];
         char time[32];
         std::snprintf(date, sizeof date, "%04d-%02d-%02d", f.year, f.month, f.day);
         std::snprintf(time, sizeof time, "%02d:%02d:%02d", f.hour, f.minute, f.second);
         out["date"] = date;
         out["time"] = time;
-        out["frame"] = f.frame;
+        out["frame"] = f.sample;
     }
     return out;
 }
 
 std::string TimecodeRow(const TimeCode& timeCode) {
-    const json t = TimecodeJson(timeCode);
     std::string row;
-    if (t.contains("date")) {
-        char frame[16];
-        std::snprintf(frame, sizeof frame, "%c%02d", timeCode.IsDropFrame() ? ';' : ':',
-                      t["frame"].get<int>());
-        row = t["date"].get<std::string>() + " " + t["time"].get<std::string>() + frame + ", ";
+    if (TimeCodeBuilder::TryFromTimeCode(timeCode)) {
+        row = timeCode.ToString() + ", ";
     }
     row += "count " + std::to_string(timeCode.GetTotalSample()) + " at " +
            std::to_string(timeCode.GetRate().GetNumerator()) + "/" +

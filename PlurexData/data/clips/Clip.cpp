@@ -1,7 +1,6 @@
 #include "PlurexData/data/clips/Clip.h"
 
 #include "PlurexData/data/clips/detail/ClipRules.h"
-#include "PlurexData/data/clips/detail/TimeCodeFields.h"
 #include "PlurexData/timepoints/TimeCodeBuilder.h"
 #include "PlurexData/timepoints/VideoRates.h"
 
@@ -13,6 +12,7 @@ namespace Korv::Plurex::Data::Clips {
 using TimePoints::Rate;
 using TimePoints::TimeCode;
 using TimePoints::TimeCodeBuilder;
+using TimePoints::TimeCodeFields;
 using TimePoints::VideoRates;
 
 namespace {
@@ -58,20 +58,16 @@ TimeCode Rebuild(const TimeCode& timeCode, const Rate& rate) noexcept {
     }
     const long long frames = rate.GetNumerator();
     const bool drop = timeCode.IsDropFrame() && frames == 60;
-    Detail::TimeCodeFields fields{};
-    if (!Detail::SplitTimeCode(timeCode, fields)) {
-        fields = Detail::TimeCodeFields{1900, 1, 1, 0, 0, 0, 0};
+    const auto split = TimeCodeBuilder::TryFromTimeCode(timeCode);
+    TimeCodeFields fields = split ? split->GetFields() : TimeCodeFields{1900, 1, 1, 0, 0, 0, 0};
+    if (fields.sample >= frames) {
+        fields.sample = static_cast<int>(frames - 1);
     }
-    if (fields.frame >= frames) {
-        fields.frame = static_cast<int>(frames - 1);
-    }
-    if (drop && fields.minute % 10 != 0 && fields.second == 0 && fields.frame < 4) {
-        fields.frame = 4;
+    if (drop && fields.minute % 10 != 0 && fields.second == 0 && fields.sample < 4) {
+        fields.sample = 4;
     }
     try {
-        return TimeCodeBuilder(fields.year, fields.month, fields.day, fields.hour, fields.minute,
-                               fields.second, fields.frame, rate, drop, timeCode.GetFlag())
-            .Build();
+        return TimeCodeBuilder(fields, rate, drop, timeCode.GetFlag()).Build();
     } catch (const std::exception&) {
         // The fields above always build; this only keeps the promise never to throw.
         return TimeCode(rate, 0, false, timeCode.GetFlag());

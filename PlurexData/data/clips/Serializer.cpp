@@ -146,19 +146,28 @@ const DecodeBases& Bases() noexcept {
     throw std::out_of_range(message);
 }
 
-template <bool Big>
-unsigned int SaveTimecode(const TimeCode& timeCode, unsigned char* at) noexcept {
+// The timecode word of `timeCode`; false for a rate the record has no bit for.
+bool TimecodeWord(const TimeCode& timeCode, std::uint64_t& word) noexcept {
     const Rate& rate = timeCode.GetRate();
-    std::uint64_t value = static_cast<std::uint64_t>(timeCode.GetTotalSample()) & CountMask;
+    word = static_cast<std::uint64_t>(timeCode.GetTotalSample()) & CountMask;
     if (rate.GetDenominator() != 1) {
-        return 0;
+        return false;
     }
     if (rate.GetNumerator() == 60) {
-        value |= Rate60Bit | (timeCode.IsDropFrame() ? DropBit : 0);
+        word |= Rate60Bit | (timeCode.IsDropFrame() ? DropBit : 0);
     } else if (rate.GetNumerator() != 50) {
+        return false;
+    }
+    return true;
+}
+
+template <bool Big>
+unsigned int SaveTimecode(const TimeCode& timeCode, unsigned char* at) noexcept {
+    std::uint64_t word = 0;
+    if (!TimecodeWord(timeCode, word)) {
         return 0;
     }
-    Order<Big>::Put64(at, value);
+    Order<Big>::Put64(at, word);
     return Serializer::TimecodeSize;
 }
 
@@ -174,9 +183,7 @@ struct Decoded {
     }
 };
 
-template <bool Big>
-Decoded DecodeTimecode(const unsigned char* at) {
-    const std::uint64_t value = Order<Big>::Get64(at);
+Decoded DecodeWord(std::uint64_t value) {
     const DecodeBases& bases = Bases();
     const TimeCode& base =
         (value & Rate60Bit) == 0 ? bases.pal : ((value & DropBit) != 0 ? bases.ntscDrop : bases.ntsc);
@@ -190,6 +197,11 @@ Decoded DecodeTimecode(const unsigned char* at) {
     const bool drop = base.IsDropFrame() && rate.GetDenominator() == 1 &&
                       (rate.GetNumerator() == 60 || rate.GetNumerator() == 30);
     return Decoded{&rate, total, drop};
+}
+
+template <bool Big>
+Decoded DecodeTimecode(const unsigned char* at) {
+    return DecodeWord(Order<Big>::Get64(at));
 }
 
 template <bool Big>
@@ -413,6 +425,27 @@ unsigned int Serializer::LoadFromBuffer(const unsigned char* buffer, unsigned in
         return 0;
     }
     return bigEndian ? Load<true>(buffer, clip) : Load<false>(buffer, clip);
+}
+
+unsigned int Serializer::LoadWithRecordStandard(const unsigned char* buffer, unsigned int size, Clip& clip,
+                                                bool bigEndian) {
+    if (buffer == nullptr || size < RecordSize) {
+        return 0;
+    }
+    clip.VideoStandard(FromByte<VideoStandard>(buffer[VideoStandardAt]));
+    return LoadFromBuffer(buffer, size, clip, bigEndian);
+}
+
+std::uint64_t Serializer::ToTimecodeWord(const TimeCode& timeCode) {
+    std::uint64_t word = 0;
+    if (!TimecodeWord(timeCode, word)) {
+        throw std::invalid_argument("Timecode rate must be 50/1 or 60/1");
+    }
+    return word;
+}
+
+TimeCode Serializer::FromTimecodeWord(std::uint64_t word) {
+    return DecodeWord(word).ToTimeCode();
 }
 
 unsigned int Serializer::SaveEssenceToBuffer(const Clip::Essence& essence, unsigned char* buffer,

@@ -4,6 +4,8 @@
 #include "PlurexData/data/clips/Clip.h"
 #include "PlurexData/timepoints/TimeCode.h"
 
+#include <cstdint>
+
 namespace Korv::Plurex::Data::Clips {
 
 /// The packed 290-byte clip record that servers and clients exchange. Multi-byte numbers are
@@ -48,6 +50,12 @@ public:
     static unsigned int LoadFromBuffer(const unsigned char* buffer, unsigned int size, Clip& clip,
                                        bool bigEndian);
 
+    /// LoadFromBuffer on a clip first set to the record's own video standard (byte 173) through
+    /// VideoStandard(), as a client already running that standard would hold it: a record saved from an
+    /// Ntsc clip then reads back with its legacy drop flag, whatever standard `clip` had. 0, with the
+    /// clip unchanged, for a null buffer or a size below 290; throws as LoadFromBuffer does.
+    static unsigned int LoadWithRecordStandard(const unsigned char* buffer, unsigned int size, Clip& clip,
+                                               bool bigEndian);
     /// 15 bytes: the flag, field 2, metadata, field 4 and the three compression fields one byte each,
     /// then the four values in 16 bits. The type is not written. 0 for a null buffer or a size below 15.
     static unsigned int SaveEssenceToBuffer(const Clip::Essence& essence, unsigned char* buffer,
@@ -68,6 +76,11 @@ public:
     static unsigned int LoadTimecodeFromBuffer(const unsigned char* buffer, unsigned int size,
                                                TimePoints::TimeCode& timeCode, bool bigEndian);
 
+    /// The 64-bit timecode word of the record, before byte order is applied: what SaveTimecodeToBuffer
+    /// writes. Throws std::invalid_argument("Timecode rate must be 50/1 or 60/1") for any other rate.
+    static std::uint64_t ToTimecodeWord(const TimePoints::TimeCode& timeCode);
+    /// The timecode of a 64-bit timecode word, as LoadTimecodeFromBuffer reads it, with its exception.
+    static TimePoints::TimeCode FromTimecodeWord(std::uint64_t word);
     /// The value, byte-reversed when `swap` is set.
     ///@{
     static unsigned short Swap16(unsigned short value, bool swap) noexcept;

@@ -474,6 +474,31 @@ TEST(Serializer, LegacyDropFlagFollowsTheClipsStandardBeforeTheLoad) {
     EXPECT_FALSE(Load(palRecord, false, VideoStandard::Ntsc).isLegacyTimecodeDrop);
 }
 
+// The record's own standard first: what an Ntsc clip with the legacy drop flag saves reads back equal
+// on a fresh (Pal) clip, whatever standard the clip had before.
+TEST(Serializer, LoadWithRecordStandardReadsTheLegacyDropFlag) {
+    Clip ntsc;
+    ntsc.VideoStandard(VideoStandard::Ntsc);
+    ntsc.isLegacyTimecodeDrop = true;
+    ntsc.inBoundTodTimecode = TimeCode(VideoRates::Rate60(), 123456, true);
+    for (bool big : {false, true}) {
+        const Record record = Save(ntsc, big);
+        Clip plain;
+        Serializer::LoadFromBuffer(record.data(), 290, plain, big);
+        EXPECT_NE(plain, ntsc);
+        for (VideoStandard before : {VideoStandard::Pal, VideoStandard::Ntsc, VideoStandard::Unknown}) {
+            Clip clip;
+            clip.VideoStandard(before);
+            EXPECT_EQ(Serializer::LoadWithRecordStandard(record.data(), 290, clip, big), 290u);
+            EXPECT_EQ(clip, ntsc);
+        }
+    }
+    Clip untouched;
+    EXPECT_EQ(Serializer::LoadWithRecordStandard(Save(ntsc, false).data(), 289, untouched, false), 0u);
+    EXPECT_EQ(Serializer::LoadWithRecordStandard(nullptr, 290, untouched, false), 0u);
+    EXPECT_EQ(untouched, Clip());
+}
+
 TEST(Serializer, TimecodeEncoding) {
     struct Case {
         TimeCode timeCode;
@@ -498,6 +523,8 @@ TEST(Serializer, TimecodeEncoding) {
                 value |= std::uint64_t{bytes[big ? 7 - i : i]} << (8 * i);
             }
             EXPECT_EQ(value, c.encoded);
+            EXPECT_EQ(Serializer::ToTimecodeWord(c.timeCode), c.encoded);
+            EXPECT_EQ(Serializer::FromTimecodeWord(c.encoded), c.decoded);
             TimeCode decoded(Rate(1, 1), -1);
             EXPECT_EQ(Serializer::LoadTimecodeFromBuffer(bytes, 8, decoded, big), 8u);
             EXPECT_EQ(decoded, c.decoded);
@@ -511,6 +538,12 @@ TEST(Serializer, TimecodeEncoding) {
     unsigned char untouched[8] = {1, 2, 3, 4, 5, 6, 7, 8};
     for (const Rate& rate : {Rate(30, 1), Rate(100, 2), Rate(50, -1)}) {
         EXPECT_EQ(Serializer::SaveTimecodeToBuffer(TimeCode(rate, 5), untouched, 8, false), 0u);
+        EXPECT_THROW(
+            try { Serializer::ToTimecodeWord(TimeCode(rate, 5)); } catch (const std::invalid_argument& e) {
+                EXPECT_STREQ(e.what(), "Timecode rate must be 50/1 or 60/1");
+                throw;
+            },
+            std::invalid_argument);
     }
     EXPECT_EQ(untouched[0] + untouched[7], 9);
 }
