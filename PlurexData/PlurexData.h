@@ -58,6 +58,7 @@
 #include "PlurexData/data/clips/RecordingRange.h"
 #include "PlurexData/data/clips/RecordingStatus.h"
 #include "PlurexData/data/clips/Serializer.h"
+#include "PlurexData/data/clips/TextField.h"
 #include "PlurexData/data/clips/Train.h"
 #include "PlurexData/data/clips/Type.h"
 #include "PlurexData/data/clips/UmId.h"
