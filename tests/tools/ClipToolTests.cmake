@@ -35,6 +35,7 @@ clip_encode_refuses(rate ${inputs}/rate.json "Timecode Rate inconsistent with Cl
 clip_encode_refuses(essence ${inputs}/essence.json
     "essences[1].videoCompressionType: IntraDnxHd (4) does not suit a LongGop essence")
 clip_encode_refuses(year ${inputs}/year.json "year 2262 must be between 1900 and 2261")
+clip_encode_refuses(euro ${inputs}/euro.json "name: U+20AC not in iso-8859-1")
 # Hex digits are text: a number's decimal digits are not bytes.
 clip_encode_refuses(raw-number ${inputs}/raw-number.json "rawBytes: hexadecimal text expected")
 clip_encode_refuses(hex-number ${inputs}/hex-number.json "name.hex: hexadecimal text expected")

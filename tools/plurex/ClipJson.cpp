@@ -75,116 +75,65 @@ std::vector<unsigned char> FromHex(const json& value, std::size_t size, const st
     return bytes;
 }
 
-void AppendUtf8(std::string& text, char32_t c) {
-    if (c < 0x80) {
-        text += static_cast<char>(c);
-    } else if (c < 0x800) {
-        text += static_cast<char>(0xC0 | (c >> 6));
-        text += static_cast<char>(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        text += static_cast<char>(0xE0 | (c >> 12));
-        text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        text += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        text += static_cast<char>(0xF0 | (c >> 18));
-        text += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        text += static_cast<char>(0x80 | (c & 0x3F));
-    }
+Clips::TextField KeywordField(std::size_t k) {
+    return static_cast<Clips::TextField>(static_cast<std::size_t>(Clips::TextField::Keyword0) + k);
 }
 
-std::u32string FromUtf8(const std::string& text, const std::string& field) {
-    std::u32string out;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        const std::size_t extra = lead < 0x80 ? 0 : lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-        if ((lead >= 0x80 && lead < 0xC0) || lead >= 0xF8 || i + extra >= text.size() + (extra == 0)) {
-            throw Failure(field + ": text is not UTF-8");
-        }
-        char32_t c = extra == 0 ? lead : lead & (0x3Fu >> extra);
-        for (std::size_t k = 1; k <= extra; ++k) {
-            c = (c << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3Fu);
-        }
-        out += c;
-        i += extra + 1;
-    }
-    return out;
+// The stored bytes of a text field and its unicode flag (null for texts 1 to 4, which have none).
+struct FieldBytes {
+    char* bytes;
+    std::size_t size;
+    bool* unicode;
+};
+
+template <std::size_t N>
+FieldBytes BytesOf(Clip::Text<N>& text) {
+    return FieldBytes{text.text, N, &text.unicode};
 }
 
-// The readable form of stored text bytes: 8-bit characters as Latin-1, or UTF-16 (the host's byte
-// order, as the clip holds it), each up to its first NUL.
-std::string ReadableText(const unsigned char* bytes, std::size_t size, bool unicode) {
-    std::string text;
-    if (!unicode) {
-        for (std::size_t i = 0; i < size && bytes[i] != 0; ++i) {
-            AppendUtf8(text, bytes[i]);
-        }
-        return text;
+FieldBytes BytesOf(Clip& clip, Clips::TextField field) {
+    const auto index = static_cast<std::size_t>(field);
+    char* const texts[] = {clip.text1, clip.text2, clip.text3, clip.text4};
+    if (index < 4) {
+        return FieldBytes{texts[index], Clip::TextLength, nullptr};
     }
-    for (std::size_t i = 0; i + 1 < size; i += 2) {
-        const char32_t unit = bytes[i] | (bytes[i + 1] << 8);
-        if (unit == 0) {
-            break;
-        }
-        if (unit >= 0xD800 && unit < 0xDC00 && i + 3 < size) {
-            const char32_t low = bytes[i + 2] | (bytes[i + 3] << 8);
-            if (low >= 0xDC00 && low < 0xE000) {
-                AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
-                i += 2;
-                continue;
-            }
-        }
-        AppendUtf8(text, unit >= 0xD800 && unit < 0xE000 ? 0xFFFD : unit);
+    if (field == Clips::TextField::Name) {
+        return BytesOf(clip.name);
     }
-    return text;
+    if (field == Clips::TextField::VarId) {
+        return BytesOf(clip.varId);
+    }
+    return BytesOf(clip.keywords[index - static_cast<std::size_t>(Clips::TextField::Keyword0)]);
 }
 
-// The inverse of ReadableText, padded with NULs to `size` bytes.
-std::vector<unsigned char> StoredText(const std::string& text, std::size_t size, bool unicode,
-                                      const std::string& field) {
-    std::vector<unsigned char> bytes;
-    for (const char32_t c : FromUtf8(text, field)) {
-        if (!unicode) {
-            if (c > 0xFF) {
-                throw Failure(field + ": a character beyond U+00FF in an 8-bit text");
-            }
-            bytes.push_back(static_cast<unsigned char>(c));
-            continue;
-        }
-        std::vector<char32_t> units{c};
-        if (c >= 0x10000) {
-            units = {0xD800 + ((c - 0x10000) >> 10), 0xDC00 + ((c - 0x10000) & 0x3FF)};
-        }
-        for (const char32_t unit : units) {
-            bytes.push_back(static_cast<unsigned char>(unit & 0xFF));
-            bytes.push_back(static_cast<unsigned char>(unit >> 8));
-        }
-    }
-    if (bytes.size() > size) {
-        throw Failure(field + ": text longer than " + std::to_string(size) + " bytes");
-    }
-    bytes.resize(size, 0);
-    return bytes;
-}
-
-json TextJson(const char* stored, std::size_t size, bool unicode, bool hasFlag) {
-    const auto* bytes = reinterpret_cast<const unsigned char*>(stored);
-    const std::string text = ReadableText(bytes, size, unicode);
+// The text as UTF-8 and its flag, with "hex" added when writing the text back would not give the stored
+// bytes (a byte after the first NUL, a lone surrogate).
+json TextJson(Clip clip, Clips::TextField field) {
+    const FieldBytes stored = BytesOf(clip, field);
+    const bool unicode = stored.unicode != nullptr && *stored.unicode;
+    const std::string text = Clips::GetTextUtf8(clip, field);
     json out{{"text", text}};
-    if (hasFlag) {
+    if (stored.unicode != nullptr) {
         out["unicode"] = unicode;
     }
-    if (StoredText(text, size, unicode, "") != std::vector<unsigned char>(bytes, bytes + size)) {
-        out["hex"] = Hex(bytes, size);
+    Clip rewritten = clip;
+    bool same = false;
+    try {
+        Clips::SetTextUtf8(rewritten, field, text, unicode);
+        same = std::equal(stored.bytes, stored.bytes + stored.size, BytesOf(rewritten, field).bytes);
+    } catch (const std::invalid_argument&) {
+    }
+    if (!same) {
+        out["hex"] = Hex(reinterpret_cast<const unsigned char*>(stored.bytes), stored.size);
     }
     return out;
 }
 
-std::string TextRow(const char* stored, std::size_t size, bool unicode, bool hasFlag) {
-    const json text = TextJson(stored, size, unicode, hasFlag);
+std::string TextRow(const Clip& clip, Clips::TextField field) {
+    const json text = TextJson(clip, field);
     std::string row = "\"" + text["text"].get<std::string>() + "\"";
-    if (hasFlag) {
-        row += unicode ? " (UTF-16)" : " (8-bit)";
+    if (text.contains("unicode")) {
+        row += text["unicode"].get<bool>() ? " (UTF-16)" : " (8-bit)";
     }
     if (text.contains("hex")) {
         row += " hex " + text["hex"].get<std::string>();
@@ -384,28 +333,30 @@ TimeCode TimecodeFrom(const json& value, const Rate& clipRate, const std::string
         }
         return TimeCode(timeRate, Integer(*count, 0, INT64_MAX, fields.Name("count")), drop);
     }
-    int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
-    char end = 0;
-    if (date == nullptr || !date->is_string() ||
-        std::sscanf(date->get<std::string>().c_str(), "%d-%d-%d%c", &year, &month, &day, &end) != 3) {
+    if (date == nullptr || !date->is_string()) {
         throw Failure(fields.Name("date") + ": YYYY-MM-DD expected");
     }
-    if (time == nullptr || !time->is_string() ||
-        std::sscanf(time->get<std::string>().c_str(), "%d:%d:%d%c", &hour, &minute, &second, &end) != 3) {
+    if (time == nullptr || !time->is_string()) {
         throw Failure(fields.Name("time") + ": HH:MM:SS expected");
     }
     if (frame == nullptr) {
         throw Failure(fields.Name("frame") + ": a frame number expected");
     }
-    // The builder takes a negative frame as counting back into the previous second; no timecode is
-    // written so.
-    const auto frameNumber = static_cast<int>(Integer(*frame, 0, INT32_MAX, fields.Name("frame")));
-    const TimeCode built =
-        TimeCodeBuilder(year, month, day, hour, minute, second, frameNumber, timeRate, drop).Build();
+    // Nine digits at most, as the timecode text has them. The builder would take a negative frame as
+    // counting back into the previous second; no timecode is written so.
+    const auto frameNumber = static_cast<int>(Integer(*frame, 0, 999999999, fields.Name("frame")));
+    char frameText[16];
+    std::snprintf(frameText, sizeof frameText, "%c%02d", drop ? ';' : ':', frameNumber);
+    const std::string text = date->get<std::string>() + " " + time->get<std::string>() + frameText;
+    TimeCode built = TimeCode(timeRate, 0);
+    try {
+        built = TimeCode::Parse(text, timeRate);
+    } catch (const std::invalid_argument&) {
+        throw Failure(where + ": date YYYY-MM-DD and time HH:MM:SS expected, got \"" + Shown(text) + "\"");
+    }
     if (count != nullptr && Integer(*count, 0, INT64_MAX, fields.Name("count")) != built.GetTotalSample()) {
-        throw Failure(where + ": count " + count->dump() + " is not " + Shown(date->get<std::string>()) +
-                      " " + Shown(time->get<std::string>()) + " frame " + std::to_string(frameNumber) +
-                      " (count " + std::to_string(built.GetTotalSample()) + ")");
+        throw Failure(where + ": count " + count->dump() + " is not " + Shown(text) + " (count " +
+                      std::to_string(built.GetTotalSample()) + ")");
     }
     return built;
 }
@@ -426,14 +377,13 @@ json EssenceJson(Clip::Essence essence) {
 
 json ClipJson(Clip clip) {
     json out;
-    out["text1"] = TextJson(clip.text1, Clip::TextLength, false, false);
-    out["text2"] = TextJson(clip.text2, Clip::TextLength, false, false);
-    out["text3"] = TextJson(clip.text3, Clip::TextLength, false, false);
-    out["text4"] = TextJson(clip.text4, Clip::TextLength, false, false);
-    out["name"] = TextJson(clip.name.text, clip.name.Size, clip.name.unicode, true);
-    out["varId"] = TextJson(clip.varId.text, clip.varId.Size, clip.varId.unicode, true);
-    for (const auto& keyword : clip.keywords) {
-        out["keywords"].push_back(TextJson(keyword.text, keyword.Size, keyword.unicode, true));
+    for (int i = 0; i < 4; ++i) {
+        out["text" + std::to_string(i + 1)] = TextJson(clip, static_cast<Clips::TextField>(i));
+    }
+    out["name"] = TextJson(clip, Clips::TextField::Name);
+    out["varId"] = TextJson(clip, Clips::TextField::VarId);
+    for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
+        out["keywords"].push_back(TextJson(clip, KeywordField(k)));
     }
     out["rawBytes"] = Hex(clip.rawBytes, sizeof clip.rawBytes);
     out["is3D"] = clip.is3D;
@@ -468,16 +418,13 @@ json ClipJson(Clip clip) {
 
 Rows ClipRows(Clip clip) {
     Rows rows;
-    const char* texts[] = {clip.text1, clip.text2, clip.text3, clip.text4};
     for (int i = 0; i < 4; ++i) {
-        rows.emplace_back("text " + std::to_string(i + 1), TextRow(texts[i], Clip::TextLength, false, false));
+        rows.emplace_back("text " + std::to_string(i + 1), TextRow(clip, static_cast<Clips::TextField>(i)));
     }
-    rows.emplace_back("name", TextRow(clip.name.text, clip.name.Size, clip.name.unicode, true));
-    rows.emplace_back("var-id", TextRow(clip.varId.text, clip.varId.Size, clip.varId.unicode, true));
+    rows.emplace_back("name", TextRow(clip, Clips::TextField::Name));
+    rows.emplace_back("var-id", TextRow(clip, Clips::TextField::VarId));
     for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-        const auto& keyword = clip.keywords[k];
-        rows.emplace_back("keyword " + std::to_string(k),
-                          TextRow(keyword.text, keyword.Size, keyword.unicode, true));
+        rows.emplace_back("keyword " + std::to_string(k), TextRow(clip, KeywordField(k)));
     }
     rows.emplace_back("raw bytes", Hex(clip.rawBytes, sizeof clip.rawBytes));
     rows.emplace_back("3D", YesNo(clip.is3D));
@@ -520,39 +467,33 @@ Rows ClipRows(Clip clip) {
     return rows;
 }
 
-// The stored bytes of a text object: {"text"} (8-bit, or UTF-16 when "unicode" is set), or "hex".
-// `unicode` is null for the 8-character texts, which have no flag.
-std::vector<unsigned char> TextFrom(const json& value, std::size_t size, bool* unicode,
-                                    const std::string& where) {
-    Fields text(value, where);
-    if (unicode != nullptr) {
-        ReadBool(text, "unicode", *unicode);
+// A text object into its field: {"text"} (8-bit, or UTF-16 when "unicode" is set) through the library,
+// or the stored bytes as "hex". Texts 1 to 4 have no "unicode".
+void ReadText(const json* value, Clip& clip, Clips::TextField field) {
+    if (value == nullptr) {
+        return;
+    }
+    const FieldBytes target = BytesOf(clip, field);
+    Fields text(*value, Clips::ToString(field));
+    bool unicode = false;
+    if (target.unicode != nullptr) {
+        ReadBool(text, "unicode", unicode);
     }
     const json* readable = text.Take("text");
     const json* hex = text.Take("hex");
     text.CheckAllTaken();
     if (hex != nullptr) {
-        return FromHex(*hex, size, text.Name("hex"));
+        const std::vector<unsigned char> bytes = FromHex(*hex, target.size, text.Name("hex"));
+        std::copy(bytes.begin(), bytes.end(), target.bytes);
+        if (target.unicode != nullptr) {
+            *target.unicode = unicode;
+        }
+        return;
     }
     if (readable == nullptr || !readable->is_string()) {
         throw Failure(text.Name("text") + ": a text expected");
     }
-    return StoredText(readable->get<std::string>(), size, unicode != nullptr && *unicode, text.Name("text"));
-}
-
-template <std::size_t N>
-void ReadClipText(const json* value, Clip::Text<N>& target, const std::string& where) {
-    if (value != nullptr) {
-        const std::vector<unsigned char> bytes = TextFrom(*value, N, &target.unicode, where);
-        std::copy(bytes.begin(), bytes.end(), target.text);
-    }
-}
-
-void ReadShortText(Fields& fields, const std::string& key, char* target) {
-    if (const json* value = fields.Take(key)) {
-        const std::vector<unsigned char> bytes = TextFrom(*value, Clip::TextLength, nullptr, key);
-        std::copy(bytes.begin(), bytes.end(), target);
-    }
+    Clips::SetTextUtf8(clip, field, readable->get_ref<const std::string&>(), unicode);
 }
 
 Clip::Essence EssenceFrom(const json& value, Clips::Essences::Type type, const std::string& where) {
@@ -596,18 +537,17 @@ Clip::Essence EssenceFrom(const json& value, Clips::Essences::Type type, const s
 Clip ClipFrom(const json& document) {
     Clip clip;
     Fields fields(document, "");
-    ReadShortText(fields, "text1", clip.text1);
-    ReadShortText(fields, "text2", clip.text2);
-    ReadShortText(fields, "text3", clip.text3);
-    ReadShortText(fields, "text4", clip.text4);
-    ReadClipText(fields.Take("name"), clip.name, "name");
-    ReadClipText(fields.Take("varId"), clip.varId, "varId");
+    for (int i = 0; i < 4; ++i) {
+        ReadText(fields.Take("text" + std::to_string(i + 1)), clip, static_cast<Clips::TextField>(i));
+    }
+    ReadText(fields.Take("name"), clip, Clips::TextField::Name);
+    ReadText(fields.Take("varId"), clip, Clips::TextField::VarId);
     if (const json* keywords = fields.Take("keywords")) {
         if (!keywords->is_array() || keywords->size() != Clip::KeywordCount) {
             throw Failure("keywords: five texts expected");
         }
         for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-            ReadClipText(&(*keywords)[k], clip.keywords[k], "keywords[" + std::to_string(k) + "]");
+            ReadText(&(*keywords)[k], clip, KeywordField(k));
         }
     }
     if (const json* raw = fields.Take("rawBytes")) {
@@ -724,8 +664,7 @@ std::string WhatWentWrong(const json::exception& error) {
 
 Clip DecodeRecord(const unsigned char* record, bool bigEndian) {
     Clip clip;
-    clip.VideoStandard(static_cast<Clips::VideoStandard>(record[173]));
-    Serializer::LoadFromBuffer(record, Serializer::RecordSize, clip, bigEndian);
+    Serializer::LoadWithRecordStandard(record, Serializer::RecordSize, clip, bigEndian);
     return clip;
 }
 

@@ -7,7 +7,7 @@
 #include <charconv>
 #include <memory>
 #include <string>
-#include <vector>
+#include <stdexcept>
 
 namespace PlurexTool {
 
@@ -15,7 +15,6 @@ namespace {
 
 using Korv::TimePoints::Rate;
 using Korv::TimePoints::TimeCode;
-using Korv::TimePoints::TimeCodeBuilder;
 
 // The whole of `text` as a number of type Number (decimal, optional minus sign).
 template <class Number>
@@ -25,39 +24,21 @@ bool ParseNumber(const std::string& text, Number& number) {
     return !text.empty() && result.ec == std::errc() && result.ptr == end;
 }
 
-// `text` cut at each of `separators` in turn, each part a number; false if the shape differs.
-bool ParseFields(const std::string& text, const std::string& separators, std::vector<int>& fields) {
-    fields.clear();
-    std::size_t start = 0;
-    for (char separator : separators) {
-        const std::size_t at = text.find(separator, start);
-        if (at == std::string::npos) {
-            return false;
-        }
-        fields.emplace_back();
-        if (!ParseNumber(text.substr(start, at - start), fields.back())) {
-            return false;
-        }
-        start = at + 1;
-    }
-    fields.emplace_back();
-    return ParseNumber(text.substr(start), fields.back());
-}
-
-bool ParseDate(const std::string& text, std::vector<int>& fields) {
-    return ParseFields(text, "--", fields);
-}
-
-// HH:MM:SS:FF, or HH:MM:SS;FF for a drop-frame timecode.
-bool ParseTime(const std::string& text, std::vector<int>& fields, bool& drop) {
-    const std::size_t last = text.find_last_of(":;");
-    if (last == std::string::npos) {
+// Whether `text` has the shape of a timecode text; its values are the builder's to judge.
+bool HasTimecodeShape(const std::string& text) {
+    try {
+        TimeCode::Parse(text, Rate(1, 1));
+    } catch (const std::invalid_argument&) {
         return false;
+    } catch (const std::out_of_range&) {
     }
-    drop = text[last] == ';';
-    std::string colons = text;
-    colons[last] = ':';
-    return ParseFields(colons, ":::", fields);
+    return true;
+}
+
+// HH:MM:SS:FF as HH:MM:SS;FF, for --drop (the shape is checked: the frame's separator is at 8).
+std::string Dropped(std::string time) {
+    time[8] = ';';
+    return time;
 }
 
 bool ParseRate(const std::string& text, long long& numerator, long long& denominator) {
@@ -88,21 +69,11 @@ void AddCheck(CLI::App& timecode, const Options& options) {
         "Check that a date and time build into a timecode, and print its count of samples since 1900");
     check->add_option("DATE", values->date, "YYYY-MM-DD")
         ->required()
-        ->check(Shape(
-            [](const std::string& text) {
-                std::vector<int> fields;
-                return ParseDate(text, fields);
-            },
-            "YYYY-MM-DD"));
+        ->check(Shape([](const std::string& text) { return HasTimecodeShape(text + " 00:00:00:00"); },
+                      "YYYY-MM-DD"));
     check->add_option("TIME", values->time, "HH:MM:SS:FF, or HH:MM:SS;FF for drop-frame")
         ->required()
-        ->check(Shape(
-            [](const std::string& text) {
-                std::vector<int> fields;
-                bool drop = false;
-                return ParseTime(text, fields, drop);
-            },
-            "HH:MM:SS:FF or HH:MM:SS;FF"));
+        ->check(Shape(HasTimecodeShape, "HH:MM:SS:FF or HH:MM:SS;FF"));
     check->add_option("--rate", values->rate, "Samples per second, N or N/D")
         ->required()
         ->check(Shape(
@@ -113,22 +84,11 @@ void AddCheck(CLI::App& timecode, const Options& options) {
             "N or N/D"));
     check->add_flag("--drop", values->drop, "Drop-frame timecode (as ;FF does)");
     check->callback([&options, values] {
-        std::vector<int> date, time;
-        bool semicolon = false;
         long long numerator = 0, denominator = 0;
-        ParseDate(values->date, date);
-        ParseTime(values->time, time, semicolon);
         ParseRate(values->rate, numerator, denominator);
-        const bool drop = values->drop || semicolon;
-        const TimeCodeBuilder builder(date[0], date[1], date[2], time[0], time[1], time[2], time[3],
-                                      Rate(numerator, denominator), drop);
-        builder.IsValidToBuildWithexception();
-        // The builder counts a negative frame back into the previous second; no timecode is written so.
-        // Checked after the builder's own checks, whose messages keep their order.
-        if (time[3] < 0) {
-            throw Failure("frame " + std::to_string(time[3]) + " must not be negative");
-        }
-        const TimeCode timeCode = builder.Build();
+        const std::string time = values->drop ? Dropped(values->time) : values->time;
+        const TimeCode timeCode = TimeCode::Parse(values->date + " " + time, Rate(numerator, denominator));
+        const bool drop = timeCode.IsDropFrame();
         Print(options,
               nlohmann::json{{"valid", true},
                              {"total_sample", timeCode.GetTotalSample()},
