@@ -3,6 +3,7 @@
 #include "PlurexData/timepoints/TimeCodeBuilder.h"
 #include "PlurexData/timepoints/TimeCodeFields.h"
 
+#include <climits>
 #include <cstdio>
 #include <stdexcept>
 
@@ -26,19 +27,20 @@ std::string Clock(const TimeCodeFields& f, bool drop) {
     return text;
 }
 
-// Reads `count` decimal digits at `at` into `value`; false on anything else.
+// Reads `count` decimal digits at `at` into `value`; false on anything else, or a value past INT_MAX.
 bool Digits(std::string_view text, std::size_t& at, std::size_t count, int& value) {
     if (text.size() - at < count) {
         return false;
     }
-    value = 0;
+    long long number = 0;
     for (std::size_t end = at + count; at < end; ++at) {
         if (text[at] < '0' || text[at] > '9') {
             return false;
         }
-        value = value * 10 + (text[at] - '0');
+        number = number * 10 + (text[at] - '0');
     }
-    return true;
+    value = static_cast<int>(number);
+    return number <= INT_MAX;
 }
 
 bool Separator(std::string_view text, std::size_t& at, char separator) {
@@ -54,7 +56,7 @@ bool ParseFields(std::string_view text, TimeCodeFields& f, bool& drop) {
     std::size_t at = 0;
     f = TimeCodeFields{1900, 1, 1, 0, 0, 0, 0};
     // The date is there when the text is longer than the longest time of day.
-    if (text.size() > 8 + 1 + 9 && !(Digits(text, at, 4, f.year) && Separator(text, at, '-') &&
+    if (text.size() > 8 + 1 + 10 && !(Digits(text, at, 4, f.year) && Separator(text, at, '-') &&
                                      Digits(text, at, 2, f.month) && Separator(text, at, '-') &&
                                      Digits(text, at, 2, f.day) && Separator(text, at, ' '))) {
         return false;
@@ -68,7 +70,7 @@ bool ParseFields(std::string_view text, TimeCodeFields& f, bool& drop) {
         return false;
     }
     const std::size_t frameDigits = text.size() - at;
-    return frameDigits >= 2 && frameDigits <= 9 && Digits(text, at, frameDigits, f.sample);
+    return frameDigits >= 2 && frameDigits <= 10 && Digits(text, at, frameDigits, f.sample);
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ public:
     std::string ToTimeOfDayString() const;
     /// The timecode at `rate` (flag byte 0) of "YYYY-MM-DD HH:MM:SS:FF" or "HH:MM:SS:FF", the date
     /// 1900-01-01 when left out; ";" before the frame builds a drop-frame timecode. Two digits for each
-    /// field but the year (four) and the frame (two to nine), nothing before or after. Other text
+    /// field but the year (four) and the frame (two to ten, at most 2147483647), nothing before or after. Other text
     /// throws std::invalid_argument("Invalid timecode text: " followed by the text); fields that do not
     /// build throw TimeCodeBuilder's std::out_of_range, with its message.
     static TimeCode Parse(std::string_view text, const Rate& rate);

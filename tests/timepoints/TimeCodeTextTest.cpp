@@ -142,6 +142,8 @@ TEST(TimeCodeText, PrintsAndParsesBothForms) {
     EXPECT_EQ(drop.ToString(), "2024-07-14 20:31:00;04");
     EXPECT_EQ(drop.ToTimeOfDayString(), "20:31:00;04");
     EXPECT_EQ(TimeCodeBuilder(1900, 1, 1, 0, 0, 0, 123, Rate(250, 1)).Build().ToString(), "1900-01-01 00:00:00:123");
+    const TimeCode widest(Rate(1LL << 31, 1), INT32_MAX);
+    EXPECT_EQ(TimeCode::Parse(widest.ToString(), widest.GetRate()), widest);
     // Timecodes without a builder still print, as their count and rate.
     EXPECT_EQ(TimeCode(Rate(30000, 1001), 5).ToString(), "TotalSample 5 at 30000/1001");
     EXPECT_EQ(TimeCode(Rate(25, 1), -2, true).ToTimeOfDayString(), "TotalSample -2 at 25/1 drop-frame");
@@ -164,7 +166,7 @@ TEST(TimeCodeText, PrintsAndParsesBothForms) {
 TEST(TimeCodeText, RefusesOtherTextAndInvalidFields) {
     const Rate rate(30, 1);
     for (const char* text : {"", "20:31:00", "20:31:00:4", "20:31:00.04", "2:31:00:04", "20:31:00:04 ",
-                             " 20:31:00:04", "20:31:00:0000000004", "2024-07-14T20:31:00:04", "2024-7-14 20:31:00:04",
+                             " 20:31:00:04", "20:31:00:00000000004", "00:00:00:2147483648", "2024-07-14T20:31:00:04", "2024-7-14 20:31:00:04",
                              "2024-07-14  20:31:00:04", "-1:31:00:04", "20:31:+0:04", "24-07-14 20:31:00:04"}) {
         EXPECT_EQ(ParseMessage<std::invalid_argument>(text, rate), "Invalid timecode text: " + std::string(text));
         EXPECT_FALSE(TimeCode::TryParse(text, rate).has_value()) << text;

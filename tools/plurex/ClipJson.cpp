@@ -342,9 +342,9 @@ TimeCode TimecodeFrom(const json& value, const Rate& clipRate, const std::string
     if (frame == nullptr) {
         throw Failure(fields.Name("frame") + ": a frame number expected");
     }
-    // Nine digits at most, as the timecode text has them. The builder would take a negative frame as
-    // counting back into the previous second; no timecode is written so.
-    const auto frameNumber = static_cast<int>(Integer(*frame, 0, 999999999, fields.Name("frame")));
+    // The builder would take a negative frame as counting back into the previous second; no timecode
+    // is written so.
+    const auto frameNumber = static_cast<int>(Integer(*frame, 0, INT32_MAX, fields.Name("frame")));
     char frameText[16];
     std::snprintf(frameText, sizeof frameText, "%c%02d", drop ? ';' : ':', frameNumber);
     const std::string text = date->get<std::string>() + " " + time->get<std::string>() + frameText;

@@ -168,7 +168,7 @@ void SetTextUtf8(Clip& clip, TextField field, std::string_view text, bool unicod
     if (stored.size() > place.size) {
         Refuse(field, "text longer than " + std::to_string(place.size) + " bytes");
     }
-    std::memcpy(place.bytes, stored.data(), stored.size());
+    std::copy(stored.begin(), stored.end(), place.bytes);
     // The field, then its terminators (one for texts 1 to 4, two for the others).
     std::memset(place.bytes + stored.size(), 0, place.size - stored.size() + (place.unicode ? 2 : 1));
     if (place.unicode != nullptr) {
