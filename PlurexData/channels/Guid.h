@@ -45,3 +45,9 @@ public:
 };
 
 }  // namespace Korv::Plurex::Data::Channels
+
+namespace std {
+/// Hashes as the base Guid does (Guid::Hash), consistent with the inherited ==.
+template <>
+struct hash<Korv::Plurex::Data::Channels::Guid> : hash<Korv::Plurex::Data::Guid> {};
+}  // namespace std

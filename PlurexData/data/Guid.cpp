@@ -1,5 +1,7 @@
 #include "PlurexData/data/Guid.h"
 
+#include "PlurexData/data/detail/Hash.h"
+
 #include <boost/lexical_cast.hpp>
 #include <boost/random/mersenne_twister.hpp>
 #include <boost/uuid/random_generator.hpp>
@@ -10,6 +12,7 @@
 #include <cstdint>
 #include <cstring>
 #include <mutex>
+#include <ostream>
 
 namespace Korv::Plurex::Data {
 
@@ -41,7 +44,7 @@ bool IsHexDigit(char c) noexcept {
 // Exactly the texts that boost::lexical_cast<boost::uuids::uuid> accepts: 36 characters, hex digits
 // of either case, hyphens after the 4th, 6th, 8th and 10th byte, nothing before or after. Checking
 // first spares the conversion's exception on malformed text, which costs several times a parse.
-bool HasUuidShape(const std::string& text) noexcept {
+bool HasUuidShape(std::string_view text) noexcept {
     if (text.size() != 36) {
         return false;
     }
@@ -52,6 +55,13 @@ bool HasUuidShape(const std::string& text) noexcept {
         }
     }
     return true;
+}
+
+unsigned char HexValue(char c) noexcept {
+    if (c <= '9') {
+        return static_cast<unsigned char>(c - '0');
+    }
+    return static_cast<unsigned char>((c | 0x20) - 'a' + 10);  // either case
 }
 
 }  // namespace
@@ -98,6 +108,24 @@ Guid Guid::FromString(const std::string& text) {
     }
 }
 
+std::optional<Guid> Guid::TryParse(std::string_view text) noexcept {
+    if (!HasUuidShape(text)) {
+        return std::nullopt;
+    }
+    // The shape is the whole test: every text of that shape converts, so the digits are read here
+    // rather than through the conversion FromString uses, which may throw.
+    unsigned char bytes[Size];
+    std::size_t at = 0;
+    for (unsigned char& byte : bytes) {
+        if (text[at] == '-') {
+            ++at;
+        }
+        byte = static_cast<unsigned char>(HexValue(text[at]) << 4 | HexValue(text[at + 1]));
+        at += 2;
+    }
+    return Guid(bytes, Size);
+}
+
 std::string Guid::ToString() const {
     static constexpr char digits[] = "0123456789abcdef";
     std::string text(36, '-');
@@ -120,6 +148,15 @@ unsigned char* Guid::ToBinary(unsigned char* out, unsigned int size) const noexc
     return out;
 }
 
+int Guid::CompareTo(const Guid& other) const noexcept {
+    for (unsigned int i = 0; i < Size; ++i) {
+        if (bytes_[i] != other.bytes_[i]) {
+            return bytes_[i] - other.bytes_[i];
+        }
+    }
+    return 0;
+}
+
 bool Guid::operator==(const Guid& other) const noexcept {
     return std::memcmp(bytes_, other.bytes_, Size) == 0;
 }
@@ -130,6 +167,14 @@ bool Guid::operator!=(const Guid& other) const noexcept {
 
 bool Guid::operator<(const Guid& other) const noexcept {
     return std::memcmp(bytes_, other.bytes_, Size) < 0;
+}
+
+std::size_t Guid::Hash() const noexcept {
+    return Detail::Hasher().Bytes(bytes_, Size).Get();
+}
+
+std::ostream& operator<<(std::ostream& out, const Guid& guid) {
+    return out << guid.ToString();
 }
 
 }  // namespace Korv::Plurex::Data

@@ -2,9 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cctype>
+#include <optional>
+#include <random>
 #include <set>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -103,4 +108,84 @@ TEST(Guid, OrdersByUnsignedBytes) {
     EXPECT_LT(Guid(low, 1), Guid(high, 1));
     EXPECT_FALSE(Guid(high, 1) < Guid(low, 1));
     EXPECT_NE(Guid(low, 1), Guid(high, 1));
+}
+
+namespace {
+
+// FromString cannot tell an accepted all-zero text from a failure; the same text with every '0' made
+// '1' is accepted exactly when the text is, and never reads as zero.
+bool FromStringAccepts(std::string text) {
+    std::replace(text.begin(), text.end(), '0', '1');
+    return Guid::FromString(text) != Guid::Empty();
+}
+
+}  // namespace
+
+TEST(Guid, TryParseTellsTheZeroGuidFromAFailure) {
+    const struct {
+        std::string text;
+        std::optional<std::string> parsed;
+    } cases[] = {
+        {"00000000-0000-0000-0000-000000000000", "00000000-0000-0000-0000-000000000000"},
+        {"00112233-4455-6677-8899-AABBCCDDEEFF", "00112233-4455-6677-8899-aabbccddeeff"},
+        {"aBcDeF09-0000-0000-0000-00000000000f", "abcdef09-0000-0000-0000-00000000000f"},
+        {"", std::nullopt},
+        {"00000000-0000-0000-0000-00000000000", std::nullopt},
+        {"00000000-0000-0000-0000-0000000000000", std::nullopt},
+        {"{00000000-0000-0000-0000-000000000000}", std::nullopt},
+        {"00000000000000000000000000000000", std::nullopt},
+        {"00000000-0000-0000-0000-00000000000g", std::nullopt},
+        {"0000000-00000-0000-0000-000000000000", std::nullopt},
+        {std::string("00000000-0000-0000-0000-00000000000\0", 36), std::nullopt},
+    };
+    for (const auto& c : cases) {
+        const std::optional<Guid> parsed = Guid::TryParse(c.text);
+        ASSERT_EQ(parsed.has_value(), c.parsed.has_value()) << testing::PrintToString(c.text);
+        if (parsed) {
+            EXPECT_EQ(parsed->ToString(), *c.parsed);
+        }
+    }
+    static_assert(noexcept(Guid::TryParse(std::string_view())));
+}
+
+// Texts one or two edits away from a valid one, from an alphabet of hex digits of both cases, the
+// hyphen and the bytes around them: TryParse accepts exactly what FromString accepts, with its value.
+TEST(Guid, TryParseAcceptsExactlyWhatFromStringAccepts) {
+    const std::string alphabet = "09afAFgG-/:@`{} \x7f\x80\xff";
+    std::mt19937 random(2024);
+    int accepted = 0;
+    for (int i = 0; i < 20000; ++i) {
+        std::string text = Guid().ToString();
+        if (random() % 2 == 0) {
+            std::transform(text.begin(), text.end(), text.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+        }
+        for (unsigned edits = random() % 3; edits > 0; --edits) {
+            const std::size_t at = random() % (text.size() + 1);
+            const char c = alphabet[random() % alphabet.size()];
+            switch (random() % 4) {
+                case 0:
+                    text.insert(at, 1, c);
+                    break;
+                case 1:
+                    text.erase(std::min(at, text.size() - 1), 1);
+                    break;
+                default:
+                    text[std::min(at, text.size() - 1)] = c;
+            }
+        }
+        if (random() % 4 == 0) {
+            std::replace_if(
+                text.begin(), text.end(), [](char c) { return c != '-'; }, '0');
+        }
+        const std::optional<Guid> parsed = Guid::TryParse(text);
+        ASSERT_EQ(parsed.has_value(), FromStringAccepts(text)) << testing::PrintToString(text);
+        if (parsed) {
+            ++accepted;
+            ASSERT_EQ(*parsed, Guid::FromString(text)) << text;
+        }
+    }
+    // Both outcomes are well represented.
+    EXPECT_GT(accepted, 5000);
+    EXPECT_LT(accepted, 15000);
 }

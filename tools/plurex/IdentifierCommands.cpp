@@ -4,8 +4,8 @@
 
 #include "PlurexData/PlurexData.h"
 
-#include <algorithm>
-#include <cctype>
+#include <memory>
+#include <optional>
 #include <string>
 
 namespace PlurexTool {
@@ -140,20 +140,12 @@ void AddUmId(CLI::App& root, const Options& options) {
 
 }  // namespace
 
-namespace {
-std::string Lower(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
-}  // namespace
-
 Korv::Plurex::Data::Guid ParseGuid(const std::string& text) {
-    const Guid guid = Guid::FromString(text);
-    if (guid == Guid::Empty() && Lower(text) != Guid::Empty().ToString()) {
+    const std::optional<Guid> guid = Guid::TryParse(text);
+    if (!guid) {
         throw Failure("not a GUID: " + text);
     }
-    return guid;
+    return *guid;
 }
 
 void AddIdentifierCommands(CLI::App& root, const Options& options) {

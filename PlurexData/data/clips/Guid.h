@@ -27,3 +27,9 @@ private:
 };
 
 }  // namespace Korv::Plurex::Data::Clips
+
+namespace std {
+/// Hashes as the base Guid does (Guid::Hash), consistent with the inherited ==.
+template <>
+struct hash<Korv::Plurex::Data::Clips::Guid> : hash<Korv::Plurex::Data::Guid> {};
+}  // namespace std

@@ -1,8 +1,10 @@
 #include "PlurexData/data/clips/KepId.h"
 
 #include "PlurexData/data/detail/DecimalText.h"
+#include "PlurexData/data/detail/Hash.h"
 
 #include <cstdint>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 
@@ -163,6 +165,15 @@ std::string KepId::ToString() const {
     text += '/';
     Detail::AppendSpacePadded(text, server_.GetValue(), 5);
     return text;
+}
+
+std::size_t KepId::Hash() const noexcept {
+    const auto camera = static_cast<unsigned char>(camera_);
+    return Detail::Hasher().Int(server_.GetValue()).Int(position_).Bytes(&camera, 1).Get();
+}
+
+std::ostream& operator<<(std::ostream& out, const KepId& id) {
+    return out << id.ToString();
 }
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -3,6 +3,9 @@
 #include "PlurexData/Export.h"
 #include "PlurexData/data/servers/ServerId.h"
 
+#include <cstddef>
+#include <functional>
+#include <iosfwd>
 #include <string>
 
 namespace Korv::Plurex::Data::Clips {
@@ -76,6 +79,12 @@ public:
     bool operator==(const KepId& other) const noexcept { return CompareTo(other) == 0; }
     bool operator!=(const KepId& other) const noexcept { return CompareTo(other) != 0; }
     ///@}
+    /// CompareTo < 0, for ordered containers. A strict weak order while positions lie less than 2^31
+    /// apart, as all positions of up to three digits do; positions driven far past them by repeated
+    /// SetPage or SetBank compare through the wrapped difference, which need not be transitive.
+    bool operator<(const KepId& other) const noexcept { return CompareTo(other) < 0; }
+    /// A hash of the server, position and camera (what == compares); what std::hash uses.
+    std::size_t Hash() const noexcept;
 
     /// True for a null `id` or one equal to Empty(): position -1 with camera 'B' is not empty.
     ///@{
@@ -92,4 +101,16 @@ private:
     Servers::ServerId server_;
 };
 
+/// Writes ToString(): "123B/   10".
+PLUREXDATA_API std::ostream& operator<<(std::ostream& out, const KepId& id);
+
 }  // namespace Korv::Plurex::Data::Clips
+
+namespace std {
+/// Hashes through KepId::Hash, consistent with ==.
+template <>
+struct hash<Korv::Plurex::Data::Clips::KepId> {
+    /// `id.Hash()`.
+    size_t operator()(const Korv::Plurex::Data::Clips::KepId& id) const noexcept { return id.Hash(); }
+};
+}  // namespace std

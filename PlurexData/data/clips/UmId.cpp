@@ -1,6 +1,9 @@
 #include "PlurexData/data/clips/UmId.h"
 
+#include "PlurexData/data/detail/Hash.h"
+
 #include <cstring>
+#include <ostream>
 #include <stdexcept>
 
 namespace Korv::Plurex::Data::Clips {
@@ -61,6 +64,15 @@ void UmId::SetUmId(const char* text, bool unicode) {
     std::memset(text_, 0, sizeof text_);
     std::memcpy(text_, text, length);
     unicode_ = unicode;
+}
+
+std::string UmId::ToString() const {
+    return text_;
+}
+
+std::size_t UmId::Hash() const noexcept {
+    // Up to the first NUL, where CompareTo stops; SetUmId leaves only NULs after it anyway.
+    return Detail::Hasher().Bytes(reinterpret_cast<const unsigned char*>(text_), std::strlen(text_)).Get();
 }
 
 int UmId::CompareTo(const UmId& other) const noexcept {
@@ -133,6 +145,10 @@ int UmId::GetUmIdEditNumber(const UmId& id) noexcept {
         number = number * 10 + (c - '0');
     }
     return number;
+}
+
+std::ostream& operator<<(std::ostream& out, const UmId& id) {
+    return out << id.ToString();
 }
 
 }  // namespace Korv::Plurex::Data::Clips

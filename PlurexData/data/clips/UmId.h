@@ -2,6 +2,9 @@
 
 #include "PlurexData/Export.h"
 
+#include <cstddef>
+#include <functional>
+#include <iosfwd>
 #include <string>
 
 namespace Korv::Plurex::Data::Clips {
@@ -60,6 +63,13 @@ public:
     bool operator==(const UmId& other) const noexcept { return CompareTo(other) == 0; }
     bool operator!=(const UmId& other) const noexcept { return CompareTo(other) != 0; }
     ///@}
+    /// CompareTo < 0: the characters only, the unicode flag ignored, as by ==.
+    bool operator<(const UmId& other) const noexcept { return CompareTo(other) < 0; }
+    /// A hash of the characters up to the first NUL, the unicode flag ignored as by ==; what std::hash
+    /// uses.
+    std::size_t Hash() const noexcept;
+    /// The 8 characters up to the first NUL, as GetUmId() reads.
+    std::string ToString() const;
 
     /// True for a null `id` or eight spaces, whatever the unicode flag.
     ///@{
@@ -84,4 +94,16 @@ private:
     bool unicode_;
 };
 
+/// Writes ToString(): the characters up to the first NUL, unquoted.
+PLUREXDATA_API std::ostream& operator<<(std::ostream& out, const UmId& id);
+
 }  // namespace Korv::Plurex::Data::Clips
+
+namespace std {
+/// Hashes through UmId::Hash, consistent with ==.
+template <>
+struct hash<Korv::Plurex::Data::Clips::UmId> {
+    /// `id.Hash()`.
+    size_t operator()(const Korv::Plurex::Data::Clips::UmId& id) const noexcept { return id.Hash(); }
+};
+}  // namespace std

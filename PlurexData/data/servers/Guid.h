@@ -42,3 +42,9 @@ public:
 };
 
 }  // namespace Korv::Plurex::Data::Servers
+
+namespace std {
+/// Hashes as the base Guid does (Guid::Hash), consistent with the inherited ==.
+template <>
+struct hash<Korv::Plurex::Data::Servers::Guid> : hash<Korv::Plurex::Data::Guid> {};
+}  // namespace std

@@ -1,7 +1,9 @@
 #include "PlurexData/data/servers/ServerId.h"
 
 #include "PlurexData/data/detail/DecimalText.h"
+#include "PlurexData/data/detail/Hash.h"
 
+#include <ostream>
 #include <stdexcept>
 
 namespace Korv::Plurex::Data::Servers {
@@ -54,6 +56,14 @@ std::string ServerId::ToString() const {
     std::string text;
     Detail::AppendSpacePadded(text, id_, 5);
     return text;
+}
+
+std::size_t ServerId::Hash() const noexcept {
+    return Detail::Hasher().Int(id_).Get();
+}
+
+std::ostream& operator<<(std::ostream& out, const ServerId& id) {
+    return out << id.ToString();
 }
 
 }  // namespace Korv::Plurex::Data::Servers

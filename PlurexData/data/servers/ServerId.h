@@ -2,6 +2,9 @@
 
 #include "PlurexData/Export.h"
 
+#include <cstddef>
+#include <functional>
+#include <iosfwd>
 #include <string>
 
 namespace Korv::Plurex::Data::Servers {
@@ -40,6 +43,10 @@ public:
     bool operator==(const ServerId& other) const noexcept { return id_ == other.id_; }
     bool operator!=(const ServerId& other) const noexcept { return id_ != other.id_; }
     ///@}
+    /// CompareTo < 0: by number, for ordered containers.
+    bool operator<(const ServerId& other) const noexcept { return CompareTo(other) < 0; }
+    /// A hash of the number, equal for equal ServerIds; what std::hash uses.
+    std::size_t Hash() const noexcept;
 
     /// The number right-aligned in 5 characters ("   10", "   -1"); longer numbers are not cut.
     std::string ToString() const;
@@ -48,4 +55,16 @@ private:
     int id_;
 };
 
+/// Writes ToString(): "   10".
+PLUREXDATA_API std::ostream& operator<<(std::ostream& out, const ServerId& id);
+
 }  // namespace Korv::Plurex::Data::Servers
+
+namespace std {
+/// Hashes through ServerId::Hash, consistent with ==.
+template <>
+struct hash<Korv::Plurex::Data::Servers::ServerId> {
+    /// `id.Hash()`.
+    size_t operator()(const Korv::Plurex::Data::Servers::ServerId& id) const noexcept { return id.Hash(); }
+};
+}  // namespace std

@@ -1,7 +1,9 @@
 #include "PlurexData/data/timelines/TimelineId.h"
 
 #include "PlurexData/data/detail/DecimalText.h"
+#include "PlurexData/data/detail/Hash.h"
 
+#include <ostream>
 #include <stdexcept>
 
 namespace Korv::Plurex::Data::Timelines {
@@ -72,6 +74,14 @@ std::string TimelineId::ToString() const {
     text += '/';
     Detail::AppendSpacePadded(text, server_.GetValue(), 5);
     return text;
+}
+
+std::size_t TimelineId::Hash() const noexcept {
+    return Detail::Hasher().Int(number_).Int(server_.GetValue()).Get();
+}
+
+std::ostream& operator<<(std::ostream& out, const TimelineId& id) {
+    return out << id.ToString();
 }
 
 }  // namespace Korv::Plurex::Data::Timelines

@@ -3,6 +3,9 @@
 #include "PlurexData/Export.h"
 #include "PlurexData/data/servers/ServerId.h"
 
+#include <cstddef>
+#include <functional>
+#include <iosfwd>
 #include <string>
 
 namespace Korv::Plurex::Data::Timelines {
@@ -47,6 +50,14 @@ public:
     bool operator==(const TimelineId& other) const noexcept { return Equals(other); }
     bool operator!=(const TimelineId& other) const noexcept { return !Equals(other); }
     ///@}
+    /// The order of CompareTo (by number), and timelines of one number by server: CompareTo alone
+    /// would make timelines of two servers one key of an ordered set or map, which == tells apart.
+    bool operator<(const TimelineId& other) const noexcept {
+        const int byNumber = CompareTo(other);
+        return byNumber != 0 ? byNumber < 0 : server_.CompareTo(other.server_) < 0;
+    }
+    /// A hash of the number and the server (what == compares); what std::hash uses.
+    std::size_t Hash() const noexcept;
 
     /// True for a null `id` or one equal to cEmpty.
     ///@{
@@ -62,4 +73,18 @@ private:
     Servers::ServerId server_;
 };
 
+/// Writes ToString(): "007/   10".
+PLUREXDATA_API std::ostream& operator<<(std::ostream& out, const TimelineId& id);
+
 }  // namespace Korv::Plurex::Data::Timelines
+
+namespace std {
+/// Hashes through TimelineId::Hash, consistent with ==.
+template <>
+struct hash<Korv::Plurex::Data::Timelines::TimelineId> {
+    /// `id.Hash()`.
+    size_t operator()(const Korv::Plurex::Data::Timelines::TimelineId& id) const noexcept {
+        return id.Hash();
+    }
+};
+}  // namespace std
