@@ -31,6 +31,7 @@
 #include "PlurexData/data/AudioConfiguration.h"
 #include "PlurexData/data/Camera.h"
 #include "PlurexData/data/CodedFrameAspectRation.h"
+#include "PlurexData/data/EnumRow.h"
 #include "PlurexData/data/FillAndKeyStatus.h"
 #include "PlurexData/data/Guid.h"
 #include "PlurexData/data/HdrProfile.h"

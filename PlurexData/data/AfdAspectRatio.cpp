@@ -23,4 +23,8 @@ AfdAspectRatio ToAfdAspectRatio(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<AfdAspectRatio>>& RowsOf(EnumTag<AfdAspectRatio>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

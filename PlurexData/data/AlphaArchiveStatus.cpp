@@ -23,4 +23,8 @@ AlphaArchiveStatus ToAlphaArchiveStatus(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<AlphaArchiveStatus>>& RowsOf(EnumTag<AlphaArchiveStatus>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -23,4 +23,8 @@ ArchiveStatus ToArchiveStatus(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<ArchiveStatus>>& RowsOf(EnumTag<ArchiveStatus>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

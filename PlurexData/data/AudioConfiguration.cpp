@@ -28,4 +28,8 @@ AudioConfiguration ToAudioConfiguration(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<AudioConfiguration>>& RowsOf(EnumTag<AudioConfiguration>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -25,5 +27,7 @@ PLUREXDATA_API const std::string& ToString(AudioConfiguration value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); AudioConfiguration::Unknown for any
 /// other text.
 PLUREXDATA_API AudioConfiguration ToAudioConfiguration(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<AudioConfiguration>() returns.
+PLUREXDATA_API const std::vector<EnumRow<AudioConfiguration>>& RowsOf(EnumTag<AudioConfiguration>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

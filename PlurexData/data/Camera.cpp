@@ -35,4 +35,8 @@ Camera ToCamera(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<Camera>>& RowsOf(EnumTag<Camera>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

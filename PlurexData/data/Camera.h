@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -32,5 +34,7 @@ enum class Camera : std::int32_t {
 PLUREXDATA_API const std::string& ToString(Camera value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); Camera::Unknown for any other text.
 PLUREXDATA_API Camera ToCamera(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<Camera>() returns.
+PLUREXDATA_API const std::vector<EnumRow<Camera>>& RowsOf(EnumTag<Camera>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -22,4 +22,8 @@ CodedFrameAspectRatio ToCodedFrameAspectRatio(const std::string& text) noexcept 
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<CodedFrameAspectRatio>>& RowsOf(EnumTag<CodedFrameAspectRatio>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

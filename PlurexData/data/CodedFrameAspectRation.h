@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -15,5 +17,8 @@ PLUREXDATA_API const std::string& ToString(CodedFrameAspectRatio value) noexcept
 /// The value named exactly `text` (case-sensitive, nothing trimmed); CodedFrameAspectRatio::Unknown for any
 /// other text.
 PLUREXDATA_API CodedFrameAspectRatio ToCodedFrameAspectRatio(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<CodedFrameAspectRatio>() returns.
+PLUREXDATA_API const std::vector<EnumRow<CodedFrameAspectRatio>>& RowsOf(
+    EnumTag<CodedFrameAspectRatio>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

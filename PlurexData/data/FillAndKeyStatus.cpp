@@ -23,4 +23,8 @@ FillAndKeyStatus ToFillAndKeyStatus(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<FillAndKeyStatus>>& RowsOf(EnumTag<FillAndKeyStatus>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -25,4 +25,8 @@ HdrProfile ToHdrProfile(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<HdrProfile>>& RowsOf(EnumTag<HdrProfile>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

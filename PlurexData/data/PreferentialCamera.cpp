@@ -23,4 +23,8 @@ PreferentialCamera ToPreferentialCamera(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<PreferentialCamera>>& RowsOf(EnumTag<PreferentialCamera>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -23,4 +23,8 @@ PrimaryTimecode ToPrimaryTimecode(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<PrimaryTimecode>>& RowsOf(EnumTag<PrimaryTimecode>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -24,4 +24,8 @@ Rating ToRating(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<Rating>>& RowsOf(EnumTag<Rating>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

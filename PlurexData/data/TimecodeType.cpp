@@ -23,4 +23,8 @@ TimecodeType ToTimecodeType(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<TimecodeType>>& RowsOf(EnumTag<TimecodeType>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -23,4 +23,8 @@ TrainStatus ToTrainStatus(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<TrainStatus>>& RowsOf(EnumTag<TrainStatus>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -14,5 +16,7 @@ enum class TrainStatus : std::int32_t { NotATrain = 0, InactiveTrain = 1, Active
 PLUREXDATA_API const std::string& ToString(TrainStatus value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); TrainStatus::Unknown for any other text.
 PLUREXDATA_API TrainStatus ToTrainStatus(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<TrainStatus>() returns.
+PLUREXDATA_API const std::vector<EnumRow<TrainStatus>>& RowsOf(EnumTag<TrainStatus>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

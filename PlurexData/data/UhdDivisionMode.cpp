@@ -23,4 +23,8 @@ UhdDivisionMode ToUhdDivisionMode(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<UhdDivisionMode>>& RowsOf(EnumTag<UhdDivisionMode>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

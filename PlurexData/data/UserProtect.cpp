@@ -31,4 +31,8 @@ UserProtect ToUserProtect(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<UserProtect>>& RowsOf(EnumTag<UserProtect>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

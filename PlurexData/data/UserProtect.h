@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -28,5 +30,7 @@ enum class UserProtect : std::int32_t {
 PLUREXDATA_API const std::string& ToString(UserProtect value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); UserProtect::Unknown for any other text.
 PLUREXDATA_API UserProtect ToUserProtect(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<UserProtect>() returns.
+PLUREXDATA_API const std::vector<EnumRow<UserProtect>>& RowsOf(EnumTag<UserProtect>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -25,4 +25,8 @@ VideoFormat ToVideoFormat(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<VideoFormat>>& RowsOf(EnumTag<VideoFormat>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

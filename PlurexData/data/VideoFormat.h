@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -15,5 +17,7 @@ enum class VideoFormat : std::int32_t { Sd = 0, Hd720p = 1, Hd1080i = 2, Wexor =
 PLUREXDATA_API const std::string& ToString(VideoFormat value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); VideoFormat::Unknown for any other text.
 PLUREXDATA_API VideoFormat ToVideoFormat(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<VideoFormat>() returns.
+PLUREXDATA_API const std::vector<EnumRow<VideoFormat>>& RowsOf(EnumTag<VideoFormat>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

@@ -22,4 +22,8 @@ VideoStandard ToVideoStandard(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<VideoStandard>>& RowsOf(EnumTag<VideoStandard>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

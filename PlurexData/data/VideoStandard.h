@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -15,5 +17,7 @@ PLUREXDATA_API const std::string& ToString(VideoStandard value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); VideoStandard::Unknown for any other
 /// text.
 PLUREXDATA_API VideoStandard ToVideoStandard(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<VideoStandard>() returns.
+PLUREXDATA_API const std::vector<EnumRow<VideoStandard>>& RowsOf(EnumTag<VideoStandard>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips

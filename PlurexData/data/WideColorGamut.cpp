@@ -22,4 +22,8 @@ WideColorGamut ToWideColorGamut(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<WideColorGamut>>& RowsOf(EnumTag<WideColorGamut>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -9,6 +9,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -33,21 +34,38 @@ Rows ParseRows(const std::string& text) {
     return rows;
 }
 
-// One enumeration: its rows as the wire knows them, and its two conversions seen through int.
+// A row as GetRows lists it: value, the address of its name, whether it is the default.
+using Listed = std::vector<std::tuple<int, const std::string*, bool>>;
+
+// One enumeration: its rows as the wire knows them, its two conversions seen through int, and its
+// rows as GetRows lists them.
 struct Table {
     std::string name;
     int defaultValue;
     Rows rows;
     std::string (*toString)(int);
     int (*toValue)(const std::string&);
+    Listed (*listed)();
 
     // `rows` as "value name, value name, ...".
     template <class E, E (*To)(const std::string&) noexcept>
     static Table Of(std::string name, int defaultValue, const std::string& rows) {
         static_assert(std::is_same_v<std::underlying_type_t<E>, std::int32_t>);
-        return {std::move(name), defaultValue, ParseRows(rows),
+        return {std::move(name),
+                defaultValue,
+                ParseRows(rows),
                 [](int value) { return std::string(ToString(static_cast<E>(value))); },
-                [](const std::string& text) { return static_cast<int>(To(text)); }};
+                [](const std::string& text) { return static_cast<int>(To(text)); },
+                [] {
+                    Listed out;
+                    for (const auto& row : Korv::Plurex::Data::GetRows<E>()) {
+                        // The listed name is the string ToString returns, and To reads it back.
+                        EXPECT_EQ(&row.name, &ToString(row.value)) << row.name;
+                        EXPECT_EQ(To(row.name), row.value) << row.name;
+                        out.emplace_back(static_cast<int>(row.value), &row.name, row.isDefault);
+                    }
+                    return out;
+                }};
     }
 };
 
@@ -156,6 +174,23 @@ TEST(Enumerations, EveryRowConvertsBothWays) {
         EXPECT_EQ(table.toString(table.defaultValue), "Unknown");
     }
     EXPECT_EQ(rows, 165u);
+}
+
+// Every table's rows, in table order (the order of `rows` above), with the default marked once.
+TEST(Enumerations, GetRowsListsTheTableInOrder) {
+    for (const Table& table : Tables()) {
+        SCOPED_TRACE(table.name);
+        const Listed listed = table.listed();
+        Rows rows;
+        int defaults = 0;
+        for (const auto& [value, name, isDefault] : listed) {
+            rows.emplace_back(value, *name);
+            EXPECT_EQ(isDefault, value == table.defaultValue) << value;
+            defaults += isDefault;
+        }
+        EXPECT_EQ(rows, table.rows);
+        EXPECT_EQ(defaults, 1);
+    }
 }
 
 TEST(Enumerations, UnknownValuesPrintAsTheDefault) {

@@ -72,6 +72,21 @@ TEST(StringAssociation, FirstRowWinsAValueAndTheLowerValueWinsAName) {
     }
     EXPECT_EQ(order,
               (std::vector<Colour>{Colour::Black, Colour::Red, Colour::Green, Colour::Blue, Colour::Grey}));
+    // GetRows keeps the construction order, without the ignored row, naming the strings ToString
+    // returns, the default marked.
+    std::vector<std::pair<Colour, bool>> rows;
+    for (const auto& row : table.GetRows()) {
+        EXPECT_EQ(&row.name, &table.ToString(row.value));
+        rows.emplace_back(row.value, row.isDefault);
+    }
+    EXPECT_EQ(rows, (std::vector<std::pair<Colour, bool>>{{Colour::Red, false},
+                                                          {Colour::Grey, true},
+                                                          {Colour::Green, false},
+                                                          {Colour::Blue, false},
+                                                          {Colour::Black, false}}));
+    ASSERT_EQ(noDefault.GetRows().size(), 2u);
+    EXPECT_EQ(noDefault.GetRows()[0].value, Colour::Green);
+    EXPECT_FALSE(noDefault.GetRows()[0].isDefault || noDefault.GetRows()[1].isDefault);
 }
 
 // Names that differ only in bytes above 0x7f, in embedded NULs, in length or in case: each reads

@@ -1,5 +1,10 @@
 plurex_add_tool_test(enum.list ARGS enum list
     STDOUT "^AfdAspectRatio +4 names, default 0\n.*\nCamera +16 names, default 16\n.*\nEssences::ArchiveStatus +3 names, default 2\n$")
+# Every table, whole: its count of names and default, and one long table's rows in table order.
+plurex_add_tool_test(enum.list.all ARGS enum list
+    STDOUT "^AfdAspectRatio +4 names, default 0\nAlphaArchiveStatus +4 names, default 3\nArchiveStatus +4 names, default 3\nAudioConfiguration +9 names, default 8\nCamera +16 names, default 16\nCodedFrameAspectRatio +3 names, default 0\nFillAndKeyStatus +4 names, default 3\nHdrProfile +6 names, default 5\nPreferentialCamera +4 names, default 3\nPrimaryTimecode +4 names, default 3\nRating +5 names, default 4\nSourceEngine +5 names, default 4\nTimecodeType +4 names, default 3\nTrainStatus +4 names, default 3\nUhdDivisionMode +4 names, default 3\nUserProtect +12 names, default 65536\nVideoFormat +6 names, default 5\nVideoStandard +3 names, default 2\nWideColorGamut +3 names, default 2\nEssences::Type +4 names, default 3\nEssences::VideoCompressionType +22 names, default 21\nEssences::VideoCompressionInfo +12 names, default 11\nEssences::AudioCompressionType +4 names, default 3\nEssences::BlockSize +4 names, default 3\nEssences::Metadata +6 names, default 5\nEssences::RecordingStatus +6 names, default 5\nEssences::ArchiveStatus +3 names, default 2\n$")
+plurex_add_tool_test(enum.list.order ARGS enum list Essences::VideoCompressionInfo
+    STDOUT "^0 +IntraNone\n1 +IntraDnxHdUnknown\n2 +IntraDnxHdLowBitrate\n3 +IntraDnxHdHighBitrate\n4 +IntraDnxHdHighBitrate10b\n5 +IntraProResUnknown\n6 +IntraProResStandardQuality\n7 +IntraProResHighQuality\n8 +IntraProResLt\n9 +LongGopNone\n10 +LowResNone\n11 +Unknown \\(default\\)\n$")
 plurex_add_tool_test(enum.list.one ARGS enum list UserProtect
     STDOUT "^0 +None\n1 +Dorsel\n2 +Brenix\n4 +Wexor\n.*\n256 +Talvane\n65535 +All\n65536 +Unknown \\(default\\)\n$")
 plurex_add_tool_test(enum.list.json ARGS --json enum list Essences::BlockSize

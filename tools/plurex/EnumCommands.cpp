@@ -27,56 +27,51 @@ struct Enumeration {
     std::int32_t Default() const { return toValue(std::string()); }
 };
 
+// The named values are the table's rows, in the library's table order.
 template <class E, E (*To)(const std::string&) noexcept>
-Enumeration Of(std::string name, std::vector<std::int32_t> values) {
+Enumeration Of(std::string name) {
+    std::vector<std::int32_t> values;
+    for (const auto& row : Korv::Plurex::Data::GetRows<E>()) {
+        values.push_back(static_cast<std::int32_t>(row.value));
+    }
     return {std::move(name), std::move(values),
             [](std::int32_t value) { return std::string(ToString(static_cast<E>(value))); },
             [](const std::string& text) { return static_cast<std::int32_t>(To(text)); }};
 }
 
-std::vector<std::int32_t> Range(std::int32_t first, std::int32_t last) {
-    std::vector<std::int32_t> values;
-    for (std::int32_t value = first; value <= last; ++value) {
-        values.push_back(value);
-    }
-    return values;
-}
-
 // The essence enumerations carry their namespace, which keeps the two ArchiveStatus tables apart.
 const std::vector<Enumeration>& Enumerations() {
     static const std::vector<Enumeration> all = {
-        Of<Clips::AfdAspectRatio, Clips::ToAfdAspectRatio>("AfdAspectRatio", Range(0, 3)),
-        Of<Clips::AlphaArchiveStatus, Clips::ToAlphaArchiveStatus>("AlphaArchiveStatus", Range(0, 3)),
-        Of<Clips::ArchiveStatus, Clips::ToArchiveStatus>("ArchiveStatus", Range(0, 3)),
-        Of<Clips::AudioConfiguration, Clips::ToAudioConfiguration>("AudioConfiguration", Range(0, 8)),
-        Of<Clips::Camera, Clips::ToCamera>("Camera", Range(1, 16)),
-        Of<Clips::CodedFrameAspectRatio, Clips::ToCodedFrameAspectRatio>("CodedFrameAspectRatio",
-                                                                         Range(0, 2)),
-        Of<Clips::FillAndKeyStatus, Clips::ToFillAndKeyStatus>("FillAndKeyStatus", Range(0, 3)),
-        Of<Clips::HdrProfile, Clips::ToHdrProfile>("HdrProfile", Range(0, 5)),
-        Of<Clips::PreferentialCamera, Clips::ToPreferentialCamera>("PreferentialCamera", Range(0, 3)),
-        Of<Clips::PrimaryTimecode, Clips::ToPrimaryTimecode>("PrimaryTimecode", Range(0, 3)),
-        Of<Clips::Rating, Clips::ToRating>("Rating", Range(0, 4)),
-        Of<Clips::SourceEngine, Clips::ToSourceEngine>("SourceEngine", Range(0, 4)),
-        Of<Clips::TimecodeType, Clips::ToTimecodeType>("TimecodeType", Range(0, 3)),
-        Of<Clips::TrainStatus, Clips::ToTrainStatus>("TrainStatus", Range(0, 3)),
-        Of<Clips::UhdDivisionMode, Clips::ToUhdDivisionMode>("UhdDivisionMode", Range(0, 3)),
-        Of<Clips::UserProtect, Clips::ToUserProtect>("UserProtect",
-                                                     {0, 1, 2, 4, 8, 16, 32, 64, 128, 256, 65535, 65536}),
-        Of<Clips::VideoFormat, Clips::ToVideoFormat>("VideoFormat", Range(0, 5)),
-        Of<Clips::VideoStandard, Clips::ToVideoStandard>("VideoStandard", Range(0, 2)),
-        Of<Clips::WideColorGamut, Clips::ToWideColorGamut>("WideColorGamut", Range(0, 2)),
-        Of<Essences::Type, Essences::ToType>("Essences::Type", Range(0, 3)),
-        Of<Essences::VideoCompressionType, Essences::ToVideoCompressionType>("Essences::VideoCompressionType",
-                                                                             Range(0, 21)),
-        Of<Essences::VideoCompressionInfo, Essences::ToVideoCompressionInfo>("Essences::VideoCompressionInfo",
-                                                                             Range(0, 11)),
-        Of<Essences::AudioCompressionType, Essences::ToAudioCompressionType>("Essences::AudioCompressionType",
-                                                                             Range(0, 3)),
-        Of<Essences::BlockSize, Essences::ToBlockSize>("Essences::BlockSize", Range(0, 3)),
-        Of<Essences::Metadata, Essences::ToMetadata>("Essences::Metadata", Range(0, 5)),
-        Of<Essences::RecordingStatus, Essences::ToRecordingStatus>("Essences::RecordingStatus", Range(0, 5)),
-        Of<Essences::ArchiveStatus, Essences::ToArchiveStatus>("Essences::ArchiveStatus", Range(0, 2)),
+        Of<Clips::AfdAspectRatio, Clips::ToAfdAspectRatio>("AfdAspectRatio"),
+        Of<Clips::AlphaArchiveStatus, Clips::ToAlphaArchiveStatus>("AlphaArchiveStatus"),
+        Of<Clips::ArchiveStatus, Clips::ToArchiveStatus>("ArchiveStatus"),
+        Of<Clips::AudioConfiguration, Clips::ToAudioConfiguration>("AudioConfiguration"),
+        Of<Clips::Camera, Clips::ToCamera>("Camera"),
+        Of<Clips::CodedFrameAspectRatio, Clips::ToCodedFrameAspectRatio>("CodedFrameAspectRatio"),
+        Of<Clips::FillAndKeyStatus, Clips::ToFillAndKeyStatus>("FillAndKeyStatus"),
+        Of<Clips::HdrProfile, Clips::ToHdrProfile>("HdrProfile"),
+        Of<Clips::PreferentialCamera, Clips::ToPreferentialCamera>("PreferentialCamera"),
+        Of<Clips::PrimaryTimecode, Clips::ToPrimaryTimecode>("PrimaryTimecode"),
+        Of<Clips::Rating, Clips::ToRating>("Rating"),
+        Of<Clips::SourceEngine, Clips::ToSourceEngine>("SourceEngine"),
+        Of<Clips::TimecodeType, Clips::ToTimecodeType>("TimecodeType"),
+        Of<Clips::TrainStatus, Clips::ToTrainStatus>("TrainStatus"),
+        Of<Clips::UhdDivisionMode, Clips::ToUhdDivisionMode>("UhdDivisionMode"),
+        Of<Clips::UserProtect, Clips::ToUserProtect>("UserProtect"),
+        Of<Clips::VideoFormat, Clips::ToVideoFormat>("VideoFormat"),
+        Of<Clips::VideoStandard, Clips::ToVideoStandard>("VideoStandard"),
+        Of<Clips::WideColorGamut, Clips::ToWideColorGamut>("WideColorGamut"),
+        Of<Essences::Type, Essences::ToType>("Essences::Type"),
+        Of<Essences::VideoCompressionType, Essences::ToVideoCompressionType>(
+            "Essences::VideoCompressionType"),
+        Of<Essences::VideoCompressionInfo, Essences::ToVideoCompressionInfo>(
+            "Essences::VideoCompressionInfo"),
+        Of<Essences::AudioCompressionType, Essences::ToAudioCompressionType>(
+            "Essences::AudioCompressionType"),
+        Of<Essences::BlockSize, Essences::ToBlockSize>("Essences::BlockSize"),
+        Of<Essences::Metadata, Essences::ToMetadata>("Essences::Metadata"),
+        Of<Essences::RecordingStatus, Essences::ToRecordingStatus>("Essences::RecordingStatus"),
+        Of<Essences::ArchiveStatus, Essences::ToArchiveStatus>("Essences::ArchiveStatus"),
     };
     return all;
 }

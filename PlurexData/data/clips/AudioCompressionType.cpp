@@ -23,4 +23,8 @@ AudioCompressionType ToAudioCompressionType(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<AudioCompressionType>>& RowsOf(EnumTag<AudioCompressionType>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips::Essences

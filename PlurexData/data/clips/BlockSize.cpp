@@ -23,4 +23,8 @@ BlockSize ToBlockSize(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<BlockSize>>& RowsOf(EnumTag<BlockSize>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -25,4 +25,8 @@ Metadata ToMetadata(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<Metadata>>& RowsOf(EnumTag<Metadata>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
@@ -21,5 +23,7 @@ enum class Metadata : std::int32_t {
 PLUREXDATA_API const std::string& ToString(Metadata value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); Metadata::Unknown for any other text.
 PLUREXDATA_API Metadata ToMetadata(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<Metadata>() returns.
+PLUREXDATA_API const std::vector<EnumRow<Metadata>>& RowsOf(EnumTag<Metadata>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

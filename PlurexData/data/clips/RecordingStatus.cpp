@@ -25,4 +25,8 @@ RecordingStatus ToRecordingStatus(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<RecordingStatus>>& RowsOf(EnumTag<RecordingStatus>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
@@ -22,5 +24,7 @@ PLUREXDATA_API const std::string& ToString(RecordingStatus value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); RecordingStatus::Unknown for any other
 /// text.
 PLUREXDATA_API RecordingStatus ToRecordingStatus(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<RecordingStatus>() returns.
+PLUREXDATA_API const std::vector<EnumRow<RecordingStatus>>& RowsOf(EnumTag<RecordingStatus>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

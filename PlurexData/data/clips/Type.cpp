@@ -23,4 +23,8 @@ Type ToType(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<Type>>& RowsOf(EnumTag<Type>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
@@ -14,5 +16,7 @@ enum class Type : std::int32_t { Intra = 0, LongGop = 1, LowRes = 2, Unknown = 3
 PLUREXDATA_API const std::string& ToString(Type value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); Type::Unknown for any other text.
 PLUREXDATA_API Type ToType(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<Type>() returns.
+PLUREXDATA_API const std::vector<EnumRow<Type>>& RowsOf(EnumTag<Type>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -31,4 +31,8 @@ VideoCompressionInfo ToVideoCompressionInfo(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<VideoCompressionInfo>>& RowsOf(EnumTag<VideoCompressionInfo>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips::Essences

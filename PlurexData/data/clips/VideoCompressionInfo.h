@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
@@ -28,5 +30,8 @@ PLUREXDATA_API const std::string& ToString(VideoCompressionInfo value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); VideoCompressionInfo::Unknown for any
 /// other text.
 PLUREXDATA_API VideoCompressionInfo ToVideoCompressionInfo(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<VideoCompressionInfo>() returns.
+PLUREXDATA_API const std::vector<EnumRow<VideoCompressionInfo>>& RowsOf(
+    EnumTag<VideoCompressionInfo>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences

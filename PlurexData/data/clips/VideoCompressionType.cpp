@@ -41,4 +41,8 @@ VideoCompressionType ToVideoCompressionType(const std::string& text) noexcept {
     return converter.ToType(text);
 }
 
+const std::vector<EnumRow<VideoCompressionType>>& RowsOf(EnumTag<VideoCompressionType>) noexcept {
+    return converter.GetRows();
+}
+
 }  // namespace Korv::Plurex::Data::Clips::Essences

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "PlurexData/Export.h"
+#include "PlurexData/data/EnumRow.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace Korv::Plurex::Data::Clips::Essences {
 
@@ -38,5 +40,8 @@ PLUREXDATA_API const std::string& ToString(VideoCompressionType value) noexcept;
 /// The value named exactly `text` (case-sensitive, nothing trimmed); VideoCompressionType::Unknown for any
 /// other text.
 PLUREXDATA_API VideoCompressionType ToVideoCompressionType(const std::string& text) noexcept;
+/// The rows of the table in table order, the default marked: what GetRows<VideoCompressionType>() returns.
+PLUREXDATA_API const std::vector<EnumRow<VideoCompressionType>>& RowsOf(
+    EnumTag<VideoCompressionType>) noexcept;
 
 }  // namespace Korv::Plurex::Data::Clips::Essences
