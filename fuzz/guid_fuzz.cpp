@@ -1,5 +1,6 @@
 // Guid::FromString on arbitrary text: it accepts exactly what the Boost conversion accepts, what it
-// accepts prints back as the lower-case input, and every hyphenated lower-case hex text parses.
+// accepts prints back as the lower-case input, every hyphenated lower-case hex text parses, and
+// TryParse agrees.
 #include "PlurexData/data/Guid.h"
 
 #include <boost/lexical_cast.hpp>
@@ -49,6 +50,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } else if (accepted) {
         Check(Lower(text) == Guid::Empty().ToString());
     }
+
+    // TryParse accepts what FromString accepts, the all-zero text included, with the same value.
+    const auto tried = Guid::TryParse(text);
+    Check(tried.has_value() == (parsed != Guid::Empty() || Lower(text) == Guid::Empty().ToString()));
+    Check(!tried || *tried == parsed);
 
     // The same bytes as a GUID: their text form always parses back to them.
     const Guid fromBytes(data, static_cast<unsigned int>(std::min<std::size_t>(size, Guid::Size)));
