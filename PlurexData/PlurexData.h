@@ -101,6 +101,7 @@
 #include "PlurexData/notification/ClipUpdateFinishedEventArgs.h"
 #include "PlurexData/notification/CommandEventArgs.h"
 #include "PlurexData/notification/DisconnectedFromNetworkEventArgs.h"
+#include "PlurexData/notification/EventTypeTable.h"
 #include "PlurexData/notification/MassClipDeletionEventArgs.h"
 #include "PlurexData/notification/MassClipDeletionFailedEventArgs.h"
 #include "PlurexData/notification/MassClipUpdateEventArgs.h"

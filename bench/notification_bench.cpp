@@ -1,10 +1,14 @@
 // SendEvent + Run against the same callbacks called directly, and against the plainest hand-off: a
-// std::deque guarded by a std::mutex, drained by a consumer that calls the same callbacks.
+// std::deque guarded by a std::mutex, drained by a consumer that calls the same callbacks. RunFor's
+// wake-up latency against a std::condition_variable guarding a std::deque.
 #include "BenchRatio.h"
 
 #include "PlurexData/data/Guid.h"
 #include "PlurexData/notification/PlurexClipNotifyer.h"
 
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -218,6 +222,140 @@ void SendRunCheckedVsUnchecked(benchmark::State& state, const std::shared_ptr<Cl
         });
 }
 
+// Latency from SendEvent to the callback on a thread waiting in RunFor, as a ping-pong: this thread
+// posts to `there`, whose echo thread waits in RunFor and answers from its callback by posting to
+// `here`, where this thread waits in RunFor. One call is a round trip: two hand-offs, each to a
+// sleeping thread. The events are made once and posted again, so no allocation is measured.
+struct NotifierPingPong {
+    PlurexClipNotifyer here;
+    PlurexClipNotifyer there;
+    const std::shared_ptr<ClipCommandEventArgs> ping = MakeEvent(1);
+    const std::shared_ptr<ClipCommandEventArgs> pong = MakeEvent(2);
+    std::uint64_t answers = 0;
+    std::atomic<bool> stop{false};
+    std::thread echo;
+
+    NotifierPingPong() {
+        there.massClipUpdateCallbacks.push_back(
+            [this](const MassClipUpdateEventArgs&) { here.SendEvent(pong, Type::MassClipUpdate); });
+        here.massClipUpdateCallbacks.push_back([this](const MassClipUpdateEventArgs&) { ++answers; });
+        echo = std::thread([this] {
+            while (!stop.load(std::memory_order_relaxed)) {
+                there.RunFor(std::chrono::seconds(1));
+            }
+        });
+    }
+    NotifierPingPong(const NotifierPingPong&) = delete;
+    NotifierPingPong& operator=(const NotifierPingPong&) = delete;
+    ~NotifierPingPong() {
+        stop = true;
+        there.Wake();
+        echo.join();
+    }
+
+    void operator()() {
+        const std::uint64_t before = answers;
+        there.SendEvent(ping, Type::MassClipUpdate);
+        while (answers == before) {
+            here.RunFor(std::chrono::seconds(1));
+        }
+    }
+};
+
+// The textbook hand-off: a std::deque and a std::condition_variable under one std::mutex, notified
+// on every push; the receiver waits with a timeout and calls the same kind of callback.
+class WaitQueue {
+public:
+    void Push(ClipCommandEvent event) {
+        {
+            const std::lock_guard<std::mutex> lock(mutex_);
+            queue_.push_back(std::move(event));
+        }
+        changed_.notify_one();
+    }
+    // Waits up to `timeout` for an event or Stop; false when there was none.
+    bool Pop(ClipCommandEvent& event, std::chrono::milliseconds timeout) {
+        std::unique_lock<std::mutex> lock(mutex_);
+        if (!changed_.wait_for(lock, timeout, [this] { return !queue_.empty() || stopped_; }) ||
+            queue_.empty()) {
+            return false;
+        }
+        event = std::move(queue_.front());
+        queue_.pop_front();
+        return true;
+    }
+    void Stop() {
+        {
+            const std::lock_guard<std::mutex> lock(mutex_);
+            stopped_ = true;
+        }
+        changed_.notify_one();
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<ClipCommandEvent> queue_;
+    bool stopped_ = false;
+};
+
+struct BarePingPong {
+    WaitQueue here;
+    WaitQueue there;
+    const std::shared_ptr<ClipCommandEventArgs> ping = MakeEvent(1);
+    const std::shared_ptr<ClipCommandEventArgs> pong = MakeEvent(2);
+    PlurexClipNotifyer::Callbacks<MassClipUpdateEventArgs> echoCallbacks{
+        [this](const MassClipUpdateEventArgs&) {
+            here.Push({pong, Type::MassClipUpdate});
+        }};
+    std::uint64_t answers = 0;
+    PlurexClipNotifyer::Callbacks<MassClipUpdateEventArgs> answerCallbacks{
+        [this](const MassClipUpdateEventArgs&) { ++answers; }};
+    std::atomic<bool> stop{false};
+    std::thread echo;
+
+    BarePingPong() {
+        echo = std::thread([this] {
+            ClipCommandEvent event;
+            while (!stop.load(std::memory_order_relaxed)) {
+                if (there.Pop(event, std::chrono::seconds(1))) {
+                    Call(echoCallbacks, event);
+                }
+            }
+        });
+    }
+    BarePingPong(const BarePingPong&) = delete;
+    BarePingPong& operator=(const BarePingPong&) = delete;
+    ~BarePingPong() {
+        stop = true;
+        there.Stop();
+        echo.join();
+    }
+
+    static void Call(const PlurexClipNotifyer::Callbacks<MassClipUpdateEventArgs>& callbacks,
+                     const ClipCommandEvent& event) {
+        for (const auto& callback : callbacks) {
+            callback(static_cast<const MassClipUpdateEventArgs&>(*event.args));
+        }
+    }
+
+    void operator()() {
+        there.Push({ping, Type::MassClipUpdate});
+        ClipCommandEvent event;
+        while (!here.Pop(event, std::chrono::seconds(1))) {
+        }
+        Call(answerCallbacks, event);
+    }
+};
+
+// Goal: within 1.5x of the condition variable.
+void RunForPingPongVsConditionVariable(benchmark::State& state) {
+    NotifierPingPong notifier;
+    BarePingPong bare;
+    PlurexBench::CompareWithBaseline(
+        state, [&] { notifier(); }, [&] { bare(); }, 64);
+}
+
 }  // namespace
 
 BENCHMARK_CAPTURE(SendRunCheckedVsUnchecked, exact_class, MakeEvent(1))->UseManualTime();
@@ -230,5 +368,6 @@ BENCHMARK(SendRunSameThreadVsDirect)->UseManualTime();
 BENCHMARK(SendRunSameThreadVsBare)->UseManualTime();
 BENCHMARK_TEMPLATE(SendRun, DirectRound)->ArgName("producers")->Arg(1)->Arg(2)->UseManualTime();
 BENCHMARK_TEMPLATE(SendRun, BareRound)->ArgName("producers")->Arg(1)->Arg(2)->UseManualTime();
+BENCHMARK(RunForPingPongVsConditionVariable)->UseManualTime();
 
 BENCHMARK_MAIN();

@@ -50,29 +50,39 @@ PlurexChannelNotifyer::~PlurexChannelNotifyer() = default;
 
 void PlurexChannelNotifyer::SendEvent(std::shared_ptr<ChannelCommandEventArgs> args,
                                       ChannelCommandEvent::Type type) {
-    detail::Append(commandQueue_, commandMutex_, commandSize_, ChannelCommandEvent{std::move(args), type},
-                   [this](const ChannelCommandEvent& event) {
-                       WithCommandList(*this, event.type,
-                                       [&](const auto& list) { detail::CheckClass(list, *event.args); });
-                   });
+    if (detail::Append(commandQueue_, commandMutex_, commandSize_, waiting_.waiters,
+                       ChannelCommandEvent{std::move(args), type}, [this](const ChannelCommandEvent& event) {
+                           WithCommandList(*this, event.type,
+                                           [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                       })) {
+        detail::Raise(waiting_, &Waiting::signalled);
+    }
 }
 
 void PlurexChannelNotifyer::SendEvent(std::shared_ptr<ChannelStatusEventArgs> args,
                                       ChannelStatusEvent::Type type) {
-    detail::Append(statusQueue_, statusMutex_, statusSize_, ChannelStatusEvent{std::move(args), type},
-                   [this](const ChannelStatusEvent& event) {
-                       WithStatusList(*this, event.type,
-                                      [&](const auto& list) { detail::CheckClass(list, *event.args); });
-                   });
+    if (detail::Append(statusQueue_, statusMutex_, statusSize_, waiting_.waiters,
+                       ChannelStatusEvent{std::move(args), type}, [this](const ChannelStatusEvent& event) {
+                           WithStatusList(*this, event.type,
+                                          [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                       })) {
+        detail::Raise(waiting_, &Waiting::signalled);
+    }
 }
 
 void PlurexChannelNotifyer::Run() {
+    RunOnce();
+}
+
+bool PlurexChannelNotifyer::RunOnce() {
+    bool delivered = false;
     ChannelCommandEvent command;
     if (detail::TakeFront(commandQueue_, commandMutex_, commandSize_, command)) {
         const ChannelCommandEventArgs& args = *command.args;
         WithCommandList(*this, command.type, [&](const auto& list) { detail::CallEach(list, args); });
         detail::CallEach(genericCommandCallbacks, command.type, args);
         command.args.reset();
+        delivered = true;
     }
 
     ChannelStatusEvent status;
@@ -80,7 +90,22 @@ void PlurexChannelNotifyer::Run() {
         const ChannelStatusEventArgs& args = *status.args;
         WithStatusList(*this, status.type, [&](const auto& list) { detail::CallEach(list, args); });
         detail::CallEach(genericStatusCallbacks, status.type, args);
+        delivered = true;
     }
+    return delivered;
+}
+
+bool PlurexChannelNotifyer::RunFor(std::chrono::milliseconds timeout) {
+    return detail::WaitUnlessWoken(waiting_, timeout,
+                                   [this] {
+                                       return detail::IsQueued(commandQueue_, commandMutex_, commandSize_) ||
+                                              detail::IsQueued(statusQueue_, statusMutex_, statusSize_);
+                                   }) &&
+           RunOnce();
+}
+
+void PlurexChannelNotifyer::Wake() {
+    detail::Raise(waiting_, &Waiting::woken);
 }
 
 }  // namespace Korv::Plurex::Notification

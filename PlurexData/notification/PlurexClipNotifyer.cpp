@@ -92,28 +92,38 @@ PlurexClipNotifyer::PlurexClipNotifyer() : commandSize_(0), statusSize_(0) {}
 PlurexClipNotifyer::~PlurexClipNotifyer() = default;
 
 void PlurexClipNotifyer::SendEvent(std::shared_ptr<ClipCommandEventArgs> args, ClipCommandEvent::Type type) {
-    detail::Append(commandQueue_, commandMutex_, commandSize_, ClipCommandEvent{std::move(args), type},
-                   [this](const ClipCommandEvent& event) {
-                       WithCommandList(*this, event.type,
-                                       [&](const auto& list) { detail::CheckClass(list, *event.args); });
-                   });
+    if (detail::Append(commandQueue_, commandMutex_, commandSize_, waiting_.waiters,
+                       ClipCommandEvent{std::move(args), type}, [this](const ClipCommandEvent& event) {
+                           WithCommandList(*this, event.type,
+                                           [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                       })) {
+        detail::Raise(waiting_, &Waiting::signalled);
+    }
 }
 
 void PlurexClipNotifyer::SendEvent(std::shared_ptr<ClipStatusEventArgs> args, ClipStatusEvent::Type type) {
-    detail::Append(statusQueue_, statusMutex_, statusSize_, ClipStatusEvent{std::move(args), type},
-                   [this](const ClipStatusEvent& event) {
-                       WithStatusList(*this, event.type,
-                                      [&](const auto& list) { detail::CheckClass(list, *event.args); });
-                   });
+    if (detail::Append(statusQueue_, statusMutex_, statusSize_, waiting_.waiters,
+                       ClipStatusEvent{std::move(args), type}, [this](const ClipStatusEvent& event) {
+                           WithStatusList(*this, event.type,
+                                          [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                       })) {
+        detail::Raise(waiting_, &Waiting::signalled);
+    }
 }
 
 void PlurexClipNotifyer::Run() {
+    RunOnce();
+}
+
+bool PlurexClipNotifyer::RunOnce() {
+    bool delivered = false;
     ClipCommandEvent command;
     if (detail::TakeFront(commandQueue_, commandMutex_, commandSize_, command)) {
         const ClipCommandEventArgs& args = *command.args;
         WithCommandList(*this, command.type, [&](const auto& list) { detail::CallEach(list, args); });
         detail::CallEach(genericCommandCallbacks, command.type, args);
         command.args.reset();
+        delivered = true;
     }
 
     ClipStatusEvent status;
@@ -121,7 +131,22 @@ void PlurexClipNotifyer::Run() {
         const ClipStatusEventArgs& args = *status.args;
         WithStatusList(*this, status.type, [&](const auto& list) { detail::CallEach(list, args); });
         detail::CallEach(genericStatusCallbacks, status.type, args);
+        delivered = true;
     }
+    return delivered;
+}
+
+bool PlurexClipNotifyer::RunFor(std::chrono::milliseconds timeout) {
+    return detail::WaitUnlessWoken(waiting_, timeout,
+                                   [this] {
+                                       return detail::IsQueued(commandQueue_, commandMutex_, commandSize_) ||
+                                              detail::IsQueued(statusQueue_, statusMutex_, statusSize_);
+                                   }) &&
+           RunOnce();
+}
+
+void PlurexClipNotifyer::Wake() {
+    detail::Raise(waiting_, &Waiting::woken);
 }
 
 }  // namespace Korv::Plurex::Notification

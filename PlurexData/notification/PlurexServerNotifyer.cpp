@@ -35,21 +35,38 @@ PlurexServerNotifyer::~PlurexServerNotifyer() = default;
 
 void PlurexServerNotifyer::SendEvent(std::shared_ptr<ServerStatusEventArgs> args,
                                      ServerStatusEvent::Type type) {
-    detail::Append(queue_, mutex_, size_, ServerStatusEvent{std::move(args), type},
-                   [this](const ServerStatusEvent& event) {
-                       WithList(*this, event.type,
-                                [&](const auto& list) { detail::CheckClass(list, *event.args); });
-                   });
+    if (detail::Append(queue_, mutex_, size_, waiting_.waiters, ServerStatusEvent{std::move(args), type},
+                       [this](const ServerStatusEvent& event) {
+                           WithList(*this, event.type,
+                                    [&](const auto& list) { detail::CheckClass(list, *event.args); });
+                       })) {
+        detail::Raise(waiting_, &Waiting::signalled);
+    }
 }
 
 void PlurexServerNotifyer::Run() {
+    RunOnce();
+}
+
+bool PlurexServerNotifyer::RunOnce() {
     ServerStatusEvent event;
     if (!detail::TakeFront(queue_, mutex_, size_, event)) {
-        return;
+        return false;
     }
     const ServerStatusEventArgs& args = *event.args;
     WithList(*this, event.type, [&](const auto& list) { detail::CallEach(list, args); });
     detail::CallEach(genericCallbacks, event.type, args);
+    return true;
+}
+
+bool PlurexServerNotifyer::RunFor(std::chrono::milliseconds timeout) {
+    return detail::WaitUnlessWoken(waiting_, timeout,
+                                   [this] { return detail::IsQueued(queue_, mutex_, size_); }) &&
+           RunOnce();
+}
+
+void PlurexServerNotifyer::Wake() {
+    detail::Raise(waiting_, &Waiting::woken);
 }
 
 }  // namespace Korv::Plurex::Notification

@@ -63,6 +63,28 @@ TEST(PlurexChannelNotifyer, EveryTypeValueReachesItsListThenTheGenericOne) {
     EXPECT_TRUE(log.calls.empty());
 }
 
+TEST(PlurexChannelNotifyer, TheOneArgumentFormPostsUnderTheTypeOfItsClass) {
+    PlurexChannelNotifyer notifier;
+    Log log;
+    WatchAll(notifier, log);
+    using Command = ChannelCommandEvent::Type;
+    using Status = ChannelStatusEvent::Type;
+    ExpectTypedAsNamed(notifier, log, std::make_shared<RecorderTransportProcessedEventArgs>(),
+                       Command::RecorderTransportProcessed, {"0", "g0"});
+    ExpectTypedAsNamed(notifier, log, std::make_shared<PlayerLoadProcessedEventArgs>(),
+                       Command::PlayerLoadProcessed, {"1", "g1"});
+    ExpectTypedAsNamed(notifier, log, std::make_shared<PlayerTransportProcessedEventArgs>(),
+                       Command::PlayerTransportProcessed, {"2", "g2"});
+    ExpectTypedAsNamed(notifier, log,
+                       std::make_shared<RecorderStateChangedEventArgs>(
+                           Channel(), RecorderState::StatusChange::Name, RecorderState()),
+                       Status::RecorderStateChanged, {"recorder", "s0"});
+    ExpectTypedAsNamed(notifier, log,
+                       std::make_shared<PlayerStateChangedEventArgs>(
+                           Channel(), PlayerState::StatusChange::Mode, PlayerState()),
+                       Status::PlayerStateChanged, {"player", "s1"});
+}
+
 TEST(PlurexChannelNotifyer, FailuresLoseTheEventAndSkipTheRestOfRun) {
     PlurexChannelNotifyer notifier;
     Log log;
@@ -165,6 +187,14 @@ TEST(PlurexServerNotifyer, RoutesEveryTypeValueThroughItsSingleQueue) {
     EXPECT_EQ(log.calls, Calls({"0", "g0", "1", "g1", "2", "g2", "g3", "g-5"}));
     EXPECT_EQ(log.objects[5], events[2].get());
     EXPECT_EQ(log.objects[7], events[4].get());
+
+    using Type = ServerStatusEvent::Type;
+    ExpectTypedAsNamed(notifier, log, std::make_shared<ServerAddedEventArgs>(), Type::ServerAdded,
+                       {"0", "g0"});
+    ExpectTypedAsNamed(notifier, log, std::make_shared<ServerRemovedEventArgs>(), Type::ServerRemoved,
+                       {"1", "g1"});
+    ExpectTypedAsNamed(notifier, log, std::make_shared<DisconnectedFromNetworkEventArgs>(),
+                       Type::DisconnectedFromNetwork, {"2", "g2"});
 
     log.Clear();
     notifier.disconnectedFromNetworkCallbacks.insert(notifier.disconnectedFromNetworkCallbacks.begin(),

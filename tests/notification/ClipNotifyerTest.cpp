@@ -5,6 +5,8 @@
 #include <functional>
 #include <set>
 #include <stdexcept>
+#include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 using namespace NotificationTests;
@@ -73,6 +75,12 @@ void WatchAll(PlurexClipNotifyer& n, Log& log) {
     WatchGeneric(n.genericStatusCallbacks, "s", log);
 }
 
+// Calls check((Classes*)nullptr) for each class in turn.
+template <class... Classes, class Check>
+void ForEach(Check&& check) {
+    (check(static_cast<Classes*>(nullptr)), ...);
+}
+
 std::shared_ptr<MassClipUpdateEventArgs> Mass(std::uint32_t count) {
     return std::make_shared<MassClipUpdateEventArgs>(COMMON, count);
 }
@@ -96,6 +104,64 @@ TEST(PlurexClipNotifyer, EveryTypeValueReachesItsListThenTheGenericOne) {
                   type == 0 ? Calls({"ranges", generic}) : Calls({generic}))
             << type;
     }
+}
+
+// The one-argument SendEvent takes exactly the class of one specific list: not a base class, not a
+// class without a list, not a derived or const class, not another notifier's class, and a table
+// naming a class twice gives it no type.
+static_assert(TakesTyped<PlurexClipNotifyer, ClipMoveEventArgs>::value);
+static_assert(TakesTyped<PlurexClipNotifyer, RecordingRangesChangedEventArgs>::value);
+static_assert(!TakesTyped<PlurexClipNotifyer, ClipCommandEventArgs>::value);
+static_assert(!TakesTyped<PlurexClipNotifyer, ClipUpdateEventArgs>::value);
+static_assert(!TakesTyped<PlurexClipNotifyer, AnglesGroupCreationEventArgs>::value);
+static_assert(!TakesTyped<PlurexClipNotifyer, const ClipMoveEventArgs>::value);
+static_assert(!TakesTyped<PlurexClipNotifyer, PlayerLoadProcessedEventArgs>::value);
+static_assert(!TakesTyped<PlurexChannelNotifyer, RecordingRangesChangedEventArgs>::value);
+static_assert(!TakesTyped<PlurexServerNotifyer, ServerStatusEventArgs>::value);
+namespace {
+struct OwnMove : ClipMoveEventArgs {};
+using Twice = EventTypeTable<EventTypeRow<ClipMoveEventArgs, CommandType::ClipMove>,
+                             EventTypeRow<ClipMoveEventArgs, CommandType::ClipCreation>,
+                             EventTypeRow<ClipMoveFinishedEventArgs, CommandType::ClipMoveFinished>>;
+}  // namespace
+static_assert(!TakesTyped<PlurexClipNotifyer, OwnMove>::value);
+static_assert(Twice::Count<ClipMoveEventArgs> == 2 && Twice::Count<OwnMove> == 0);
+static_assert(Twice::Count<ClipMoveFinishedEventArgs> == 1 &&
+              Twice::TypeOf<ClipMoveFinishedEventArgs> == CommandType::ClipMoveFinished);
+
+// Each class of a specific list, in the order of the type values (and of Routes()), posted with the
+// one-argument SendEvent, goes through the same lists as under its type named.
+TEST(PlurexClipNotifyer, TheOneArgumentFormPostsUnderTheTypeOfItsClass) {
+    PlurexClipNotifyer notifier;
+    Log log;
+    WatchAll(notifier, log);
+    const auto routes = Routes();
+    std::size_t i = 0;
+    const auto check = [&](auto* tag) {
+        using Args = std::remove_pointer_t<decltype(tag)>;
+        const auto& [type, base] = routes.at(i++);
+        const ClipCommandEventArgs& object = *base;
+        ASSERT_EQ(typeid(object), typeid(Args)) << type;
+        ExpectTypedAsNamed(notifier, log, std::static_pointer_cast<Args>(base),
+                           static_cast<CommandType>(type),
+                           {std::to_string(type), "g" + std::to_string(type)});
+    };
+    ForEach<ClipCreationEventArgs, ClipCreationFinishedEventArgs, ClipCreationFailedEventArgs,
+            ClipUpdateFinishedEventArgs, ClipUpdateFailedEventArgs, ClipDeletionFinishedEventArgs,
+            ClipDeletionFailedEventArgs, ClipMoveEventArgs, ClipMoveFinishedEventArgs,
+            ClipMoveFailedEventArgs, MassClipUpdateEventArgs, MassClipUpdateFailedEventArgs,
+            MassClipDeletionEventArgs, MassClipDeletionFailedEventArgs, AnglesGroupCreationFinishedEventArgs,
+            AnglesGroupCreationFailedEventArgs, AnglesGroupUpdateFinishedEventArgs,
+            AnglesGroupUpdateFailedEventArgs, AnglesGroupDeletionFinishedEventArgs,
+            AnglesGroupDeletionFailedEventArgs>(check);
+    EXPECT_EQ(i, 20u);
+    ExpectTypedAsNamed(notifier, log, std::make_shared<RecordingRangesChangedEventArgs>(),
+                       StatusType::RecordingRangesChanged, {"ranges", "s0"});
+    log.Clear();
+    EXPECT_THAT([&] { notifier.SendEvent(std::shared_ptr<ClipMoveEventArgs>()); },
+                ThrowsMessage<std::invalid_argument>(StrEq("Null EventArgs")));
+    notifier.Run();
+    EXPECT_TRUE(log.calls.empty());
 }
 
 TEST(PlurexClipNotifyer, DeliversOneEventPerQueuePerRunInOrder) {
@@ -182,8 +248,9 @@ TEST(PlurexClipNotifyer, RefusesArgumentsOfAnotherClassThanTheTypeNames) {
                     << type << ' ' << route;
                 ++accepted;
             } else {
+                const auto& posted = args;  // C++17 lambdas cannot capture a structured binding
                 EXPECT_THAT(
-                    [&] { notifier.SendEvent(args, static_cast<CommandType>(type)); },
+                    [&] { notifier.SendEvent(posted, static_cast<CommandType>(type)); },
                     ThrowsMessage<std::invalid_argument>(StrEq("EventArgs do not match the event type")))
                     << type << ' ' << route;
             }

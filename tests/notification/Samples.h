@@ -13,6 +13,9 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
 #include <vector>
 
 namespace NotificationTests {
@@ -60,6 +63,27 @@ Calls Deliver(Notifier& notifier, Log& log, const std::shared_ptr<Args>& args, T
         EXPECT_EQ(object, args.get()) << static_cast<std::int32_t>(type);  // shared, never copied
     }
     return log.calls;
+}
+
+// Whether the one-argument SendEvent takes arguments of class `Args` (it must not compile otherwise).
+template <class Notifier, class Args, class = void>
+struct TakesTyped : std::false_type {};
+template <class Notifier, class Args>
+struct TakesTyped<
+    Notifier, Args,
+    std::void_t<decltype(std::declval<Notifier&>().SendEvent(std::declval<std::shared_ptr<Args>>()))>>
+    : std::true_type {};
+
+// Posts `args` under the type named, then with the one-argument form: both make `expected`.
+template <class Notifier, class Args, class Type>
+void ExpectTypedAsNamed(Notifier& notifier, Log& log, const std::shared_ptr<Args>& args, Type type,
+                        const Calls& expected) {
+    EXPECT_EQ(Deliver(notifier, log, args, type), expected) << typeid(Args).name();
+    log.Clear();
+    notifier.SendEvent(args);
+    notifier.Run();
+    EXPECT_EQ(log.calls, expected) << typeid(Args).name();
+    EXPECT_EQ(log.objects, std::vector<const Korv::System::EventArgs*>(expected.size(), args.get()));
 }
 
 // Appends to `list` a callback that logs `name`.

@@ -2,7 +2,10 @@
 
 // The queue handling the three notifiers share. Private to the library's sources.
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <cstddef>
 #include <deque>
 #include <functional>
@@ -16,10 +19,11 @@ namespace Korv::Plurex::Notification::detail {
 
 // Appends `record` under the lock and publishes the new size for the lock-free emptiness test of
 // TakeFront. Before anything is queued, a null arguments pointer is refused (callbacks receive
-// references) and `check(record)` may refuse the record by throwing.
+// references) and `check(record)` may refuse the record by throwing. Returns whether a consumer
+// waits in RunFor: read under the queue lock, see WaitUnlessWoken.
 template <class Record, class Check>
-void Append(std::deque<Record>& queue, std::mutex& mutex, std::atomic<std::size_t>& size, Record record,
-            Check&& check) {
+bool Append(std::deque<Record>& queue, std::mutex& mutex, std::atomic<std::size_t>& size,
+            const std::atomic<std::size_t>& waiters, Record record, Check&& check) {
     if (!record.args) {
         throw std::invalid_argument("Null EventArgs");
     }
@@ -27,6 +31,18 @@ void Append(std::deque<Record>& queue, std::mutex& mutex, std::atomic<std::size_
     const std::lock_guard<std::mutex> lock(mutex);
     queue.push_back(std::move(record));
     size.store(queue.size(), std::memory_order_relaxed);
+    return waiters.load(std::memory_order_relaxed) != 0;
+}
+
+// Whether the queue holds a record, for RunFor. A non-zero published size is taken at its word: only
+// the consumer removes records, and it reads its own latest store or a producer's later one.
+template <class Record>
+bool IsQueued(const std::deque<Record>& queue, std::mutex& mutex, const std::atomic<std::size_t>& size) {
+    if (size.load(std::memory_order_relaxed) != 0) {
+        return true;
+    }
+    const std::lock_guard<std::mutex> lock(mutex);
+    return !queue.empty();
 }
 
 // Moves the front record into `front` and removes it. An empty queue is recognised from the published
@@ -78,6 +94,67 @@ void CallEach(const std::vector<std::function<void(Type, const Args&)>>& callbac
         const std::function<void(Type, const Args&)> callback = callbacks[i];
         callback(type, args);
     }
+}
+
+// RunFor's wait, over a notifier's private Waiting members: a mutex, a condition variable, the count
+// of waiters and two flags guarded by the mutex, `signalled` (an event was queued while a consumer
+// waited) and `woken` (Wake was called and no RunFor has answered it yet).
+//
+// No lost wake-up without a fence on the producer's side: the consumer counts itself in `waiters`
+// before it tests the queues under their locks, and a producer reads `waiters` under the queue lock
+// after its append. Whichever takes the queue lock second sees the other: the consumer sees the
+// record, or the producer sees the count and sets `signalled` under the wait mutex, where the
+// consumer tests it before it sleeps. `signalled` is cleared before each test of the queues, so a
+// stale one (from a waiter that has since left) costs one more test, never a missed event. The wait
+// mutex is never held with a queue mutex.
+//
+// Returns false when woken, consuming the wake; true when an event may be queued or the deadline
+// has passed.
+template <class Waiting, class Queued>
+bool WaitUnlessWoken(Waiting& waiting, std::chrono::milliseconds timeout, Queued&& queued) {
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point now = Clock::now();
+    // Saturated: now + milliseconds::max() would overflow the clock's representation.
+    const auto room = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::time_point::max() - now);
+    const Clock::time_point deadline = now + std::min(timeout, room);
+
+    struct Count {
+        std::atomic<std::size_t>& waiters;
+        explicit Count(std::atomic<std::size_t>& w) : waiters(w) {
+            waiters.fetch_add(1, std::memory_order_relaxed);
+        }
+        ~Count() { waiters.fetch_sub(1, std::memory_order_relaxed); }
+        Count(const Count&) = delete;
+        Count& operator=(const Count&) = delete;
+    } const count(waiting.waiters);
+
+    std::unique_lock<std::mutex> lock(waiting.mutex);
+    for (;;) {
+        if (waiting.woken) {
+            waiting.woken = false;
+            return false;
+        }
+        waiting.signalled = false;
+        lock.unlock();
+        if (queued()) {
+            return true;
+        }
+        lock.lock();
+        if (!waiting.changed.wait_until(lock, deadline, [&] { return waiting.signalled || waiting.woken; })) {
+            return true;  // Run still takes what came at the last moment
+        }
+    }
+}
+
+// Sets one of the Waiting flags and wakes the waiter. The notify follows the unlock, so the woken
+// thread does not sleep again on the mutex.
+template <class Waiting>
+void Raise(Waiting& waiting, bool Waiting::*flag) {
+    {
+        const std::lock_guard<std::mutex> lock(waiting.mutex);
+        waiting.*flag = true;
+    }
+    waiting.changed.notify_one();
 }
 
 }  // namespace Korv::Plurex::Notification::detail
