@@ -103,6 +103,7 @@
 #include "PlurexData/notification/DisconnectedFromNetworkEventArgs.h"
 #include "PlurexData/notification/EventTypeTable.h"
 #include "PlurexData/notification/MassClipDeletionEventArgs.h"
+#include "PlurexData/notification/NotifierWaiting.h"
 #include "PlurexData/notification/MassClipDeletionFailedEventArgs.h"
 #include "PlurexData/notification/MassClipUpdateEventArgs.h"
 #include "PlurexData/notification/MassClipUpdateFailedEventArgs.h"

@@ -55,7 +55,7 @@ void PlurexChannelNotifyer::SendEvent(std::shared_ptr<ChannelCommandEventArgs> a
                            WithCommandList(*this, event.type,
                                            [&](const auto& list) { detail::CheckClass(list, *event.args); });
                        })) {
-        detail::Raise(waiting_, &Waiting::signalled);
+        detail::Raise(waiting_, &NotifierWaiting::signalled);
     }
 }
 
@@ -66,7 +66,7 @@ void PlurexChannelNotifyer::SendEvent(std::shared_ptr<ChannelStatusEventArgs> ar
                            WithStatusList(*this, event.type,
                                           [&](const auto& list) { detail::CheckClass(list, *event.args); });
                        })) {
-        detail::Raise(waiting_, &Waiting::signalled);
+        detail::Raise(waiting_, &NotifierWaiting::signalled);
     }
 }
 
@@ -105,7 +105,7 @@ bool PlurexChannelNotifyer::RunFor(std::chrono::milliseconds timeout) {
 }
 
 void PlurexChannelNotifyer::Wake() {
-    detail::Raise(waiting_, &Waiting::woken);
+    detail::Raise(waiting_, &NotifierWaiting::woken);
 }
 
 }  // namespace Korv::Plurex::Notification

@@ -6,6 +6,7 @@
 #include "PlurexData/notification/ChannelStatusEvent.h"
 #include "PlurexData/notification/ChannelStatusEventArgs.h"
 #include "PlurexData/notification/EventTypeTable.h"
+#include "PlurexData/notification/NotifierWaiting.h"
 #include "PlurexData/notification/PlayerLoadProcessedEventArgs.h"
 #include "PlurexData/notification/PlayerStateChangedEventArgs.h"
 #include "PlurexData/notification/PlayerTransportProcessedEventArgs.h"
@@ -14,7 +15,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstddef>
 #include <deque>
 #include <functional>
@@ -106,16 +106,8 @@ private:
     std::mutex statusMutex_;
     std::atomic<std::size_t> statusSize_;
 
-    // What RunFor waits on (see detail::WaitUnlessWoken). Its mutex is never held with a queue mutex
-    // nor while a callback runs.
-    struct Waiting {
-        std::mutex mutex;
-        std::condition_variable changed;
-        std::atomic<std::size_t> waiters{0};
-        bool signalled = false;  // an event was queued while a consumer waited
-        bool woken = false;      // Wake was called and no RunFor has answered it yet
-    };
-    Waiting waiting_;
+    // What RunFor waits on (see detail::WaitUnlessWoken).
+    NotifierWaiting waiting_;
 
     // Run's work; returns whether an event left a queue.
     bool RunOnce();

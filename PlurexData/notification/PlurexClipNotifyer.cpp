@@ -97,7 +97,7 @@ void PlurexClipNotifyer::SendEvent(std::shared_ptr<ClipCommandEventArgs> args, C
                            WithCommandList(*this, event.type,
                                            [&](const auto& list) { detail::CheckClass(list, *event.args); });
                        })) {
-        detail::Raise(waiting_, &Waiting::signalled);
+        detail::Raise(waiting_, &NotifierWaiting::signalled);
     }
 }
 
@@ -107,7 +107,7 @@ void PlurexClipNotifyer::SendEvent(std::shared_ptr<ClipStatusEventArgs> args, Cl
                            WithStatusList(*this, event.type,
                                           [&](const auto& list) { detail::CheckClass(list, *event.args); });
                        })) {
-        detail::Raise(waiting_, &Waiting::signalled);
+        detail::Raise(waiting_, &NotifierWaiting::signalled);
     }
 }
 
@@ -146,7 +146,7 @@ bool PlurexClipNotifyer::RunFor(std::chrono::milliseconds timeout) {
 }
 
 void PlurexClipNotifyer::Wake() {
-    detail::Raise(waiting_, &Waiting::woken);
+    detail::Raise(waiting_, &NotifierWaiting::woken);
 }
 
 }  // namespace Korv::Plurex::Notification

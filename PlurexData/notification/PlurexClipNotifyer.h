@@ -22,6 +22,7 @@
 #include "PlurexData/notification/ClipUpdateFailedEventArgs.h"
 #include "PlurexData/notification/ClipUpdateFinishedEventArgs.h"
 #include "PlurexData/notification/EventTypeTable.h"
+#include "PlurexData/notification/NotifierWaiting.h"
 #include "PlurexData/notification/MassClipDeletionEventArgs.h"
 #include "PlurexData/notification/MassClipDeletionFailedEventArgs.h"
 #include "PlurexData/notification/MassClipUpdateEventArgs.h"
@@ -30,7 +31,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstddef>
 #include <deque>
 #include <functional>
@@ -149,16 +149,8 @@ private:
     std::mutex statusMutex_;
     std::atomic<std::size_t> statusSize_;
 
-    // What RunFor waits on (see detail::WaitUnlessWoken). Its mutex is never held with a queue mutex
-    // nor while a callback runs.
-    struct Waiting {
-        std::mutex mutex;
-        std::condition_variable changed;
-        std::atomic<std::size_t> waiters{0};
-        bool signalled = false;  // an event was queued while a consumer waited
-        bool woken = false;      // Wake was called and no RunFor has answered it yet
-    };
-    Waiting waiting_;
+    // What RunFor waits on (see detail::WaitUnlessWoken).
+    NotifierWaiting waiting_;
 
     // Run's work; returns whether an event left a queue.
     bool RunOnce();

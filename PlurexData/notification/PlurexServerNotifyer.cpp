@@ -40,7 +40,7 @@ void PlurexServerNotifyer::SendEvent(std::shared_ptr<ServerStatusEventArgs> args
                            WithList(*this, event.type,
                                     [&](const auto& list) { detail::CheckClass(list, *event.args); });
                        })) {
-        detail::Raise(waiting_, &Waiting::signalled);
+        detail::Raise(waiting_, &NotifierWaiting::signalled);
     }
 }
 
@@ -66,7 +66,7 @@ bool PlurexServerNotifyer::RunFor(std::chrono::milliseconds timeout) {
 }
 
 void PlurexServerNotifyer::Wake() {
-    detail::Raise(waiting_, &Waiting::woken);
+    detail::Raise(waiting_, &NotifierWaiting::woken);
 }
 
 }  // namespace Korv::Plurex::Notification

@@ -3,6 +3,7 @@
 #include "PlurexData/Export.h"
 #include "PlurexData/notification/DisconnectedFromNetworkEventArgs.h"
 #include "PlurexData/notification/EventTypeTable.h"
+#include "PlurexData/notification/NotifierWaiting.h"
 #include "PlurexData/notification/ServerAddedEventArgs.h"
 #include "PlurexData/notification/ServerRemovedEventArgs.h"
 #include "PlurexData/notification/ServerStatusEvent.h"
@@ -10,7 +11,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstddef>
 #include <deque>
 #include <functional>
@@ -88,16 +88,8 @@ private:
     std::mutex mutex_;
     std::atomic<std::size_t> size_;
 
-    // What RunFor waits on (see detail::WaitUnlessWoken). Its mutex is never held with a queue mutex
-    // nor while a callback runs.
-    struct Waiting {
-        std::mutex mutex;
-        std::condition_variable changed;
-        std::atomic<std::size_t> waiters{0};
-        bool signalled = false;  // an event was queued while a consumer waited
-        bool woken = false;      // Wake was called and no RunFor has answered it yet
-    };
-    Waiting waiting_;
+    // What RunFor waits on (see detail::WaitUnlessWoken).
+    NotifierWaiting waiting_;
 
     // Run's work; returns whether an event left a queue.
     bool RunOnce();
