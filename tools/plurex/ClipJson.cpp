@@ -79,52 +79,25 @@ Clips::TextField KeywordField(std::size_t k) {
     return static_cast<Clips::TextField>(static_cast<std::size_t>(Clips::TextField::Keyword0) + k);
 }
 
-// The stored bytes of a text field and its unicode flag (null for texts 1 to 4, which have none).
-struct FieldBytes {
-    char* bytes;
-    std::size_t size;
-    bool* unicode;
-};
-
-template <std::size_t N>
-FieldBytes BytesOf(Clip::Text<N>& text) {
-    return FieldBytes{text.text, N, &text.unicode};
-}
-
-FieldBytes BytesOf(Clip& clip, Clips::TextField field) {
-    const auto index = static_cast<std::size_t>(field);
-    char* const texts[] = {clip.text1, clip.text2, clip.text3, clip.text4};
-    if (index < 4) {
-        return FieldBytes{texts[index], Clip::TextLength, nullptr};
-    }
-    if (field == Clips::TextField::Name) {
-        return BytesOf(clip.name);
-    }
-    if (field == Clips::TextField::VarId) {
-        return BytesOf(clip.varId);
-    }
-    return BytesOf(clip.keywords[index - static_cast<std::size_t>(Clips::TextField::Keyword0)]);
-}
-
 // The text as UTF-8 and its flag, with "hex" added when writing the text back would not give the stored
 // bytes (a byte after the first NUL, a lone surrogate).
-json TextJson(Clip clip, Clips::TextField field) {
-    const FieldBytes stored = BytesOf(clip, field);
-    const bool unicode = stored.unicode != nullptr && *stored.unicode;
+json TextJson(const Clip& clip, Clips::TextField field) {
+    const bool unicode = Clips::IsTextUtf16(clip, field);
+    const std::string stored = Clips::GetTextBytes(clip, field);
     const std::string text = Clips::GetTextUtf8(clip, field);
     json out{{"text", text}};
-    if (stored.unicode != nullptr) {
+    if (field >= Clips::TextField::Name) {  // texts 1 to 4 have no flag
         out["unicode"] = unicode;
     }
     Clip rewritten = clip;
     bool same = false;
     try {
         Clips::SetTextUtf8(rewritten, field, text, unicode);
-        same = std::equal(stored.bytes, stored.bytes + stored.size, BytesOf(rewritten, field).bytes);
+        same = Clips::GetTextBytes(rewritten, field) == stored;
     } catch (const std::invalid_argument&) {
     }
     if (!same) {
-        out["hex"] = Hex(reinterpret_cast<const unsigned char*>(stored.bytes), stored.size);
+        out["hex"] = Hex(reinterpret_cast<const unsigned char*>(stored.data()), stored.size());
     }
     return out;
 }
@@ -473,21 +446,18 @@ void ReadText(const json* value, Clip& clip, Clips::TextField field) {
     if (value == nullptr) {
         return;
     }
-    const FieldBytes target = BytesOf(clip, field);
     Fields text(*value, Clips::ToString(field));
     bool unicode = false;
-    if (target.unicode != nullptr) {
+    if (field >= Clips::TextField::Name) {  // texts 1 to 4 have no flag
         ReadBool(text, "unicode", unicode);
     }
     const json* readable = text.Take("text");
     const json* hex = text.Take("hex");
     text.CheckAllTaken();
     if (hex != nullptr) {
-        const std::vector<unsigned char> bytes = FromHex(*hex, target.size, text.Name("hex"));
-        std::copy(bytes.begin(), bytes.end(), target.bytes);
-        if (target.unicode != nullptr) {
-            *target.unicode = unicode;
-        }
+        const std::size_t size = Clips::GetTextBytes(clip, field).size();
+        const std::vector<unsigned char> bytes = FromHex(*hex, size, text.Name("hex"));
+        Clips::SetTextBytes(clip, field, std::string(bytes.begin(), bytes.end()), unicode);
         return;
     }
     if (readable == nullptr || !readable->is_string()) {

@@ -108,6 +108,19 @@ std::vector<CodePoint> StrictUtf8(std::string_view text, TextField field) {
     return codePoints;
 }
 
+// Writes `bytes` and the flag into the field, NULs after them; refuses more bytes than it holds.
+void Store(const Place& place, TextField field, std::string_view bytes, bool unicode) {
+    if (bytes.size() > place.size) {
+        Refuse(field, "text longer than " + std::to_string(place.size) + " bytes");
+    }
+    std::copy(bytes.begin(), bytes.end(), place.bytes);
+    // The field, then its terminators (one for texts 1 to 4, two for the others).
+    std::memset(place.bytes + bytes.size(), 0, place.size - bytes.size() + (place.unicode ? 2 : 1));
+    if (place.unicode != nullptr) {
+        *place.unicode = unicode;
+    }
+}
+
 }  // namespace
 
 std::string ToString(TextField field) {
@@ -165,15 +178,25 @@ void SetTextUtf8(Clip& clip, TextField field, std::string_view text, bool unicod
         }
         stored.push_back(bytes[0]);
     }
-    if (stored.size() > place.size) {
-        Refuse(field, "text longer than " + std::to_string(place.size) + " bytes");
+    Store(place, field, std::string_view(reinterpret_cast<const char*>(stored.data()), stored.size()), unicode);
+}
+
+std::string GetTextBytes(const Clip& clip, TextField field) {
+    const Place place = Locate(const_cast<Clip&>(clip), field);
+    return std::string(place.bytes, place.size);
+}
+
+bool IsTextUtf16(const Clip& clip, TextField field) {
+    const Place place = Locate(const_cast<Clip&>(clip), field);
+    return place.unicode != nullptr && *place.unicode;
+}
+
+void SetTextBytes(Clip& clip, TextField field, std::string_view bytes, bool unicode) {
+    const Place place = Locate(clip, field);
+    if (unicode && place.unicode == nullptr) {
+        Refuse(field, "no UTF-16 form");
     }
-    std::copy(stored.begin(), stored.end(), place.bytes);
-    // The field, then its terminators (one for texts 1 to 4, two for the others).
-    std::memset(place.bytes + stored.size(), 0, place.size - stored.size() + (place.unicode ? 2 : 1));
-    if (place.unicode != nullptr) {
-        *place.unicode = unicode;
-    }
+    Store(place, field, bytes, unicode);
 }
 
 }  // namespace Korv::Plurex::Data::Clips

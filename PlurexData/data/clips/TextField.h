@@ -52,4 +52,18 @@ PLUREXDATA_API std::string GetTextUtf8(const Clip& clip, TextField field,
 PLUREXDATA_API void SetTextUtf8(Clip& clip, TextField field, std::string_view text, bool unicode = false,
                                 Unicode::Charset charset = Unicode::Charset::CodePage28591);
 
+/// The bytes `field` stores, as they are: all of them (8, 24, 32 or 12), NULs included, its
+/// terminators left out. A field outside the enumeration throws as GetTextUtf8 does.
+PLUREXDATA_API std::string GetTextBytes(const Clip& clip, TextField field);
+
+/// The field's unicode flag: whether its bytes are UTF-16. Always false for texts 1 to 4, which have
+/// no flag. A field outside the enumeration throws as GetTextUtf8 does.
+PLUREXDATA_API bool IsTextUtf16(const Clip& clip, TextField field);
+
+/// Stores `bytes` as they are in `field`, then NULs to the end of the field and its terminators, and
+/// the field's unicode flag. Throws std::invalid_argument, leaving the clip unchanged, for more bytes
+/// than the field holds ("<field>: text longer than 24 bytes"), for `unicode` on texts 1 to 4
+/// ("<field>: no UTF-16 form") and for a field outside the enumeration.
+PLUREXDATA_API void SetTextBytes(Clip& clip, TextField field, std::string_view bytes, bool unicode = false);
+
 }  // namespace Korv::Plurex::Data::Clips

@@ -8,6 +8,7 @@
 #include <random>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 using namespace Korv::Plurex::Data::Clips;
@@ -39,15 +40,6 @@ Stored Of(const Clip& clip, TextField field) {
         return {std::string(texts[index], Clip::TextLength + 1), false};
     }
     return field == TextField::Name ? Of(clip.name) : field == TextField::VarId ? Of(clip.varId) : Of(clip.keywords[index - 6]);
-}
-
-char* BytesOf(Clip& clip, TextField field) {
-    char* texts[] = {clip.text1, clip.text2, clip.text3, clip.text4};
-    const int index = static_cast<int>(field);
-    if (index < 4) {
-        return texts[index];
-    }
-    return field == TextField::Name ? clip.name.text : field == TextField::VarId ? clip.varId.text : clip.keywords[index - 6].text;
 }
 
 std::size_t SizeOf(TextField field) {
@@ -138,8 +130,10 @@ TEST(TextField, RoundTripsEveryTextAFieldHolds) {
                     bytes += {static_cast<char>(unit), static_cast<char>(unit >> 8)};
                 }
                 Clip source;
-                SetTextUtf8(source, field, "", form.unicode, form.charset);
-                std::memcpy(BytesOf(source, field), bytes.data(), bytes.size());
+                SetTextBytes(source, field, bytes, form.unicode);
+                ASSERT_EQ(Of(source, field).bytes, bytes + std::string(Of(source, field).bytes.size() - bytes.size(), '\0'));
+                ASSERT_EQ(GetTextBytes(source, field), bytes + std::string(size - bytes.size(), '\0'));
+                ASSERT_EQ(IsTextUtf16(source, field), form.unicode);
                 const std::string text = GetTextUtf8(source, field, form.charset);
                 if (form.iconvName != nullptr) {
                     ASSERT_EQ(text, Iconv(bytes, form.iconvName, "UTF-8"));
@@ -184,4 +178,17 @@ TEST(TextField, RefusesWhatTheFieldCannotHoldAndChangesNothing) {
         EXPECT_EQ(clip, Clip()) << c.message;
     }
     EXPECT_THROW(GetTextUtf8(Clip(), TextField::Name, Charset::Utf16LE), std::invalid_argument);
+    // Raw bytes: refused as text is, by the field's size and flag.
+    for (const auto& [field, bytes, unicode, message] :
+         {std::tuple{TextField::VarId, std::string(33, 'x'), true, "varId: text longer than 32 bytes"},
+          std::tuple{TextField::Text2, std::string(1, 'x'), true, "text2: no UTF-16 form"}}) {
+        Clip clip;
+        try {
+            SetTextBytes(clip, field, bytes, unicode);
+            ADD_FAILURE() << message;
+        } catch (const std::invalid_argument& e) {
+            EXPECT_STREQ(e.what(), message);
+        }
+        EXPECT_EQ(clip, Clip());
+    }
 }
