@@ -260,14 +260,10 @@ json TimecodeJson(const TimeCode& timeCode) {
              {"drop", timeCode.IsDropFrame()},
              {"count", timeCode.GetTotalSample()}};
     if (const auto split = TimeCodeBuilder::TryFromTimeCode(timeCode)) {
-        const Korv::TimePoints::TimeCodeFields f = split->GetFields();
-        char date[32];
-        char time[32];
-        std::snprintf(date, sizeof date, "%04d-%02d-%02d", f.year, f.month, f.day);
-        std::snprintf(time, sizeof time, "%02d:%02d:%02d", f.hour, f.minute, f.second);
-        out["date"] = date;
-        out["time"] = time;
-        out["frame"] = f.sample;
+        const std::string text = timeCode.ToString();  // "YYYY-MM-DD HH:MM:SS:FF"
+        out["date"] = text.substr(0, 10);
+        out["time"] = text.substr(11, 8);
+        out["frame"] = split->GetFields().sample;
     }
     return out;
 }
