@@ -427,6 +427,20 @@ unsigned int Serializer::LoadFromBuffer(const unsigned char* buffer, unsigned in
     return bigEndian ? Load<true>(buffer, clip) : Load<false>(buffer, clip);
 }
 
+std::optional<bool> Serializer::DetectByteOrder(const unsigned char* buffer, unsigned int size) noexcept {
+    if (buffer == nullptr || size < 2) {
+        return std::nullopt;
+    }
+    const unsigned int word = buffer[0] << 8 | buffer[1];
+    if (word == Swap16(RecordTag, true)) {
+        return false;
+    }
+    if (word == RecordTag) {
+        return true;
+    }
+    return std::nullopt;
+}
+
 unsigned int Serializer::LoadWithRecordStandard(const unsigned char* buffer, unsigned int size, Clip& clip,
                                                 bool bigEndian) {
     if (buffer == nullptr || size < RecordSize) {

@@ -5,6 +5,7 @@
 #include "PlurexData/timepoints/TimeCode.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace Korv::Plurex::Data::Clips {
 
@@ -56,6 +57,11 @@ public:
     /// clip unchanged, for a null buffer or a size below 290; throws as LoadFromBuffer does.
     static unsigned int LoadWithRecordStandard(const unsigned char* buffer, unsigned int size, Clip& clip,
                                                bool bigEndian);
+    /// The byte order a record's tag (bytes 0 and 1) says it is written in: false (little-endian) for
+    /// 0x00 0x07, true (big-endian) for 0x07 0x00. Empty for a null buffer, a size below 2, or any other
+    /// two bytes: no clip record starts so. The loads themselves never look at the tag.
+    static std::optional<bool> DetectByteOrder(const unsigned char* buffer, unsigned int size) noexcept;
+
     /// 15 bytes: the flag, field 2, metadata, field 4 and the three compression fields one byte each,
     /// then the four values in 16 bits. The type is not written. 0 for a null buffer or a size below 15.
     static unsigned int SaveEssenceToBuffer(const Clip::Essence& essence, unsigned char* buffer,

@@ -595,3 +595,20 @@ TEST(Serializer, FlagBytes) {
     EXPECT_EQ(Serializer::Swap64(0x0102030405060708ULL, true), 0x0807060504030201ULL);
     EXPECT_EQ(Serializer::Swap64(0x0102030405060708ULL, false), 0x0102030405060708ULL);
 }
+
+// The tag tells the byte order a record was saved in; any other first two bytes are no record.
+TEST(Serializer, DetectByteOrderReadsTheTag) {
+    for (const bool big : {false, true}) {
+        Clip clip;
+        clip.inPosition = 0x0700;  // a number that looks like the tag elsewhere in the record
+        const auto record = Save(clip, big);
+        EXPECT_EQ(Serializer::DetectByteOrder(record.data(), 290), big);
+        EXPECT_EQ(Serializer::DetectByteOrder(record.data(), 2), big);
+        EXPECT_EQ(Serializer::DetectByteOrder(record.data(), 1), std::nullopt);
+    }
+    const unsigned char others[][2] = {{0, 0}, {7, 7}, {0xFF, 0xFF}, {0, 0x70}, {0x70, 0}, {1, 7}};
+    for (const auto& bytes : others) {
+        EXPECT_EQ(Serializer::DetectByteOrder(bytes, 2), std::nullopt) << int(bytes[0]) << " " << int(bytes[1]);
+    }
+    EXPECT_EQ(Serializer::DetectByteOrder(nullptr, 290), std::nullopt);
+}
