@@ -131,6 +131,7 @@
 #include "PlurexData/timepoints/TimePoint.h"
 #include "PlurexData/timepoints/VideoRates.h"
 #include "PlurexData/unicode/ByteOrder.h"
+#include "PlurexData/unicode/ByteOrderMark.h"
 #include "PlurexData/unicode/Charset.h"
 #include "PlurexData/unicode/CodePoint.h"
 #include "PlurexData/unicode/Decode.h"
@@ -154,3 +155,4 @@
 #include "PlurexData/unicode/EncoderUTF8.h"
 #include "PlurexData/unicode/GetCode.h"
 #include "PlurexData/unicode/Transcode.h"
+#include "PlurexData/unicode/TranscodeProblem.h"

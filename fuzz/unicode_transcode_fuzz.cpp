@@ -1,6 +1,8 @@
 // Transcode between any two charsets (the first two bytes pick them): the result is what the
 // decoder and encoder give one virtual call at a time, and well-formed UTF-8 comes back unchanged
-// through UTF-16 and UTF-32.
+// through UTF-16 and UTF-32. TranscodeStrict gives the same where it succeeds; where it stops, it
+// has written the lenient conversion of the bytes before the failing character, and the rest stops
+// again at its own start for the same reason.
 #include "PlurexData/unicode/Charset.h"
 #include "PlurexData/unicode/Transcode.h"
 #include "unicode/ReferenceTranscode.h"
@@ -9,6 +11,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <string>
 
 using namespace Korv::Plurex::Unicode;
@@ -38,9 +41,30 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Transcode(input, from, to, reused);
     Check(reused == output);
 
+    std::string strict = "left over";
+    const std::optional<TranscodeProblem> problem = TryTranscodeStrict(input, from, to, strict);
+    const bool converted = !problem;
+    if (converted) {
+        Check(strict == output);
+    } else {
+        const std::size_t offset = problem->offset;
+        Check(offset < input.size());
+        Check(strict == Transcode(input.substr(0, offset), from, to));
+        Check((problem->reason == TranscodeProblem::Reason::Unmappable) == (problem->codePoint != 0));
+        std::string rest;
+        const std::optional<TranscodeProblem> again = TryTranscodeStrict(input.substr(offset), from, to, rest);
+        Check(again && again->offset == 0 && again->reason == problem->reason &&
+              again->codePoint == problem->codePoint);
+    }
+
     // UTF-8 that comes back unchanged from UTF-8 is well-formed (no byte dropped, no overlong form,
-    // nothing refused), and then it survives a round trip through the other Unicode forms.
-    if (from == Charset::Utf8 && Transcode(input, Charset::Utf8, Charset::Utf8) == input) {
+    // nothing refused): exactly what strict conversion accepts. It then survives a round trip
+    // through the other Unicode forms.
+    const bool wellFormed = from == Charset::Utf8 && Transcode(input, Charset::Utf8, Charset::Utf8) == input;
+    if (from == Charset::Utf8 && to == Charset::Utf8) {
+        Check(converted == wellFormed);
+    }
+    if (wellFormed) {
         for (const Charset via : {Charset::Utf16LE, Charset::Utf16BE, Charset::Utf32LE, Charset::Utf32BE}) {
             Check(Transcode(Transcode(input, Charset::Utf8, via), via, Charset::Utf8) == input);
         }

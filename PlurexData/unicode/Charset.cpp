@@ -14,6 +14,7 @@
 #include "PlurexData/unicode/EncoderUTF16.h"
 #include "PlurexData/unicode/EncoderUTF32.h"
 #include "PlurexData/unicode/EncoderUTF8.h"
+#include "PlurexData/unicode/detail/CharsetName.h"
 
 #include <stdexcept>
 
@@ -44,18 +45,6 @@ const std::vector<Names>& Table() {
     return table;
 }
 
-// Lower case without the separators people spell differently ("ISO_8859-1", "iso88591", "UTF8").
-std::string Folded(std::string_view name) {
-    std::string folded;
-    for (const char c : name) {
-        if (c == '-' || c == '_' || c == ' ') {
-            continue;
-        }
-        folded += (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
-    }
-    return folded;
-}
-
 const Names* Find(Charset charset) {
     for (const Names& names : Table()) {
         if (names.charset == charset) {
@@ -68,14 +57,14 @@ const Names* Find(Charset charset) {
 }  // namespace
 
 Charset ToCharset(std::string_view name) {
-    const std::string folded = Folded(name);
+    const std::string folded = Detail::FoldCharsetName(name);
     if (!folded.empty()) {
         for (const Names& names : Table()) {
-            if (folded == Folded(names.name)) {
+            if (folded == Detail::FoldCharsetName(names.name)) {
                 return names.charset;
             }
             for (const std::string& alias : names.aliases) {
-                if (folded == Folded(alias)) {
+                if (folded == Detail::FoldCharsetName(alias)) {
                     return names.charset;
                 }
             }
