@@ -42,6 +42,22 @@ constexpr std::size_t MaxBytesPerCodePoint = 4;
     throw std::invalid_argument("Unknown charset: " + std::to_string(static_cast<std::int32_t>(charset)));
 }
 
+void CheckKnown(Charset from, Charset to) {
+    for (const Charset charset : {from, to}) {
+        const auto& known = GetCharsets();
+        if (std::find(known.begin(), known.end(), charset) == known.end()) {
+            ThrowUnknown(charset);
+        }
+    }
+}
+
+// Whether `input` is a view of part of `output`, which a conversion into `output` would overwrite.
+bool Overlaps(std::string_view input, const std::string& output) {
+    const std::less<const char*> before;
+    return !input.empty() && !before(input.data(), output.data()) &&
+           before(input.data(), output.data() + output.size());
+}
+
 // The decoders for which every byte below 0x80 completes at once as the code point of the same value,
 // whatever came before it (a UTF-8 sequence in progress is abandoned, as a new lead byte abandons
 // it). After such a byte, the decoder behaves towards the next bytes exactly as an empty one.
@@ -186,16 +202,9 @@ void ConvertFrom(std::string_view input, const TDecoder& decoder, Charset to, st
 
 void Transcode(std::string_view input, Charset from, Charset to, std::string& output) {
     // Both are checked before the output is touched.
-    for (const Charset charset : {from, to}) {
-        const auto& known = GetCharsets();
-        if (std::find(known.begin(), known.end(), charset) == known.end()) {
-            ThrowUnknown(charset);
-        }
-    }
+    CheckKnown(from, to);
     // `input` may be a view of `output` itself: convert into a new string then.
-    const std::less<const char*> before;
-    if (!input.empty() && !before(input.data(), output.data()) &&
-        before(input.data(), output.data() + output.size())) {
+    if (Overlaps(input, output)) {
         std::string converted;
         Transcode(input, from, to, converted);
         output.swap(converted);
@@ -428,17 +437,10 @@ std::optional<TranscodeProblem> ConvertStrict(std::string_view input, Charset fr
 
 std::optional<TranscodeProblem> TryTranscodeStrict(std::string_view input, Charset from, Charset to,
                                                    std::string& output) {
-    for (const Charset charset : {from, to}) {
-        const auto& known = GetCharsets();
-        if (std::find(known.begin(), known.end(), charset) == known.end()) {
-            ThrowUnknown(charset);
-        }
-    }
+    CheckKnown(from, to);
     // `input` may be a view of `output` itself: convert into a new string then, which replaces
     // `output` whether the conversion ends or stops.
-    const std::less<const char*> before;
-    if (!input.empty() && !before(input.data(), output.data()) &&
-        before(input.data(), output.data() + output.size())) {
+    if (Overlaps(input, output)) {
         std::string converted;
         std::optional<TranscodeProblem> problem = TryTranscodeStrict(input, from, to, converted);
         output.swap(converted);

@@ -1,6 +1,8 @@
 #include "PlurexData/unicode/ByteOrderMark.h"
 #include "PlurexData/unicode/Charset.h"
 
+#include "Thrown.h"
+
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -10,16 +12,6 @@
 namespace {
 
 using namespace Korv::Plurex::Unicode;
-
-template <class Call>
-std::string Thrown(Call call) {
-    try {
-        call();
-    } catch (const std::invalid_argument& e) {
-        return e.what();
-    }
-    return "no exception";
-}
 
 TEST(ByteOrderMark, MarkedNames) {
     for (const char* name : {"utf-16", "UTF16", "Utf_16", " utf - 16 "}) {

@@ -2,6 +2,8 @@
 #include "PlurexData/unicode/Transcode.h"
 #include "ReferenceTranscode.h"
 
+#include "Thrown.h"
+
 #include <gtest/gtest.h>
 
 #include <iterator>
@@ -14,17 +16,6 @@
 namespace {
 
 using namespace Korv::Plurex::Unicode;
-
-// The message of the std::invalid_argument thrown, or "no exception".
-template <class Call>
-std::string Thrown(Call call) {
-    try {
-        call();
-    } catch (const std::invalid_argument& e) {
-        return e.what();
-    }
-    return "no exception";
-}
 
 TEST(Charset, NamesAndAliases) {
     const char* canonical[] = {"ascii",    "cp437",    "iso-8859-1", "iso-8859-2", "utf-8",
