@@ -3,9 +3,12 @@
 //   odd: a record the clip takes prints as JSON that reads back to the same clip, which saves to the
 //   same bytes;
 // - the input as JSON text: it reads to a clip whose JSON reads back to it, or fails with the tool's
-//   Failure: one line, the input's name, then what is wrong without the JSON library's prefix.
+//   Failure: one line, what is wrong without the JSON library's prefix;
+// - the input as a hex dump (tools/plurex/HexDump.cpp): it reads to bytes that print as xxd -p lines
+//   and read back the same, or fails with a one-line Failure.
 // Any other exception, a crash or a hang is a finding.
 #include "ClipJson.h"
+#include "HexDump.h"
 #include "Output.h"
 
 #include "PlurexData/data/clips/Serializer.h"
@@ -42,10 +45,10 @@ Record Saved(const Clip& clip, bool big) {
 
 // JSON the tool printed reads back to the clip it was printed from.
 void CheckReadsBack(const Clip& clip, bool big) {
-    const std::string text = PlurexTool::ClipJsonText(clip);
+    const std::string text = PlurexTool::JsonText(PlurexTool::ClipToJson(clip));
     Clip back;
     try {
-        back = PlurexTool::ParseClipJson(text, "printed.json");
+        back = PlurexTool::ParseClipJson(text).clip;
     } catch (const std::exception& e) {
         Check(false, e.what(), text);
     }
@@ -70,18 +73,30 @@ void FuzzText(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
     Clip clip;
     try {
-        clip = PlurexTool::ParseClipJson(text, "input.json");
+        clip = PlurexTool::ParseClipJson(text).clip;
     } catch (const PlurexTool::Failure& e) {
         const std::string message = e.what();
-        Check(message.rfind("input.json: ", 0) == 0, "a message without the input's name", message);
         Check(message.find('\n') == std::string::npos, "a message of more than one line", message);
-        // The input's own text may hold anything; what follows the name is the tool's wording.
-        const std::string what = message.substr(std::strlen("input.json: "));
-        Check(what.rfind("[json.exception.", 0) != 0 && what.rfind("parse error at ", 0) != 0,
+        Check(message.rfind("[json.exception.", 0) != 0 && message.rfind("parse error at ", 0) != 0,
               "the JSON library's prefix", message);
         return;
     }
     CheckReadsBack(clip, false);
+}
+
+void FuzzHex(const std::uint8_t* data, std::size_t size) {
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    std::string bytes;
+    try {
+        bytes = PlurexTool::ParseHexDump(text);
+    } catch (const PlurexTool::Failure& e) {
+        Check(std::string(e.what()).find('\n') == std::string::npos, "a message of more than one line", e.what());
+        return;
+    }
+    Check(bytes.size() <= size / 2, "more bytes than digit pairs", text);
+    const std::string lines =
+        PlurexTool::FormatHexLines(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+    Check(PlurexTool::ParseHexDump(lines) == bytes, "xxd -p lines read back to other bytes", lines);
 }
 
 }  // namespace
@@ -91,5 +106,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // round trip is most of the work. The big-endian seed has a byte after its record.
     FuzzRecord(data, size, size % 2 == 1);
     FuzzText(data, size);
+    FuzzHex(data, size);
     return 0;
 }

@@ -1,6 +1,7 @@
-# cmake -DTOOL=... [-DRUNNER=emulator] -DEXAMPLES=... -DWORK=... -P ClipRoundTrip.cmake
+# cmake -DTOOL=... [-DRUNNER=emulator] -DEXAMPLES=... -DINPUTS=... -DWORK=... -P ClipRoundTrip.cmake
 # The example records are what encode makes of examples/clip.json; decode --json and encode give each
-# back byte for byte, also when the record sits at an offset inside a larger file or a pipe.
+# back byte for byte, also when the record sits at an offset inside a larger file or a pipe, and a
+# capture of records in both byte orders as a whole.
 function(run)
     execute_process(COMMAND ${RUNNER} ${TOOL} ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
     if(NOT status EQUAL 0)
@@ -15,6 +16,12 @@ function(same_bytes left right)
     if(NOT a STREQUAL b)
         message(FATAL_ERROR "${left} and ${right} differ:\n${a}\n${b}")
     endif()
+endfunction()
+
+# The clip fields of decode --json, without the "record" member that says where the record was.
+function(clip_fields json)
+    string(REGEX REPLACE "^{\"record\":{[^}]*}," "{" fields "${json}")
+    set(fields "${fields}" PARENT_SCOPE)
 endfunction()
 
 file(MAKE_DIRECTORY ${WORK})
@@ -37,15 +44,29 @@ foreach(order le be)
     execute_process(COMMAND printf "${escaped}" OUTPUT_FILE ${WORK}/padded-${order}.bin)
     run(--json clip decode ${WORK}/padded-${order}.bin --offset 7 ${flag})
     file(READ ${WORK}/decoded-${order}.json expected)
-    if(NOT out STREQUAL expected)
+    clip_fields("${expected}")
+    set(expected "${fields}")
+    clip_fields("${out}")
+    if(NOT fields STREQUAL expected)
         message(FATAL_ERROR "decode --offset 7 differs:\n${out}")
     endif()
 
     # The record after 100000 zeros through a pipe, which cannot seek: skipped a bounded chunk at a time.
     execute_process(COMMAND sh -c "head -c 100000 /dev/zero && cat \"$0\"" ${EXAMPLES}/clip-${order}.bin
-                    COMMAND ${RUNNER} ${TOOL} --json clip decode /dev/stdin --offset 100000 ${flag}
+                    COMMAND ${RUNNER} ${TOOL} --json clip decode - --offset 100000 ${flag}
                     RESULTS_VARIABLE statuses OUTPUT_VARIABLE out ERROR_VARIABLE err)
-    if(NOT statuses STREQUAL "0;0" OR NOT out STREQUAL expected)
+    clip_fields("${out}")
+    if(NOT statuses STREQUAL "0;0" OR NOT fields STREQUAL expected)
         message(FATAL_ERROR "decode of a pipe at --offset 100000: status ${statuses}\n${err}${out}")
     endif()
 endforeach()
+
+# A capture of three records, the middle one big-endian: JSON Lines carry each record's byte order, and
+# encode writes each in it again.
+run(--json clip decode ${INPUTS}/capture.bin -o ${WORK}/capture.jsonl)
+run(clip encode ${WORK}/capture.jsonl -o ${WORK}/capture.bin)
+same_bytes(${WORK}/capture.bin ${INPUTS}/capture.bin)
+
+# --hex writes what xxd -p writes.
+run(clip encode --hex --big-endian ${EXAMPLES}/clip.json -o ${WORK}/clip-be.hex)
+same_bytes(${WORK}/clip-be.hex ${INPUTS}/clip-be.hex)

@@ -1,5 +1,6 @@
 // The clip as JSON and rows: the form clip new, decode and encode share (see ClipJson.h).
 #include "ClipJson.h"
+#include "HexDump.h"
 
 #include "PlurexData/PlurexData.h"
 
@@ -7,6 +8,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <limits>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -22,6 +24,7 @@ namespace Clips = Korv::Plurex::Data::Clips;
 namespace Essences = Korv::Plurex::Data::Clips::Essences;
 using Clips::Clip;
 using Clips::Serializer;
+namespace Unicode = Korv::Plurex::Unicode;
 using Korv::TimePoints::Rate;
 using Korv::TimePoints::TimeCode;
 using Korv::TimePoints::TimeCodeBuilder;
@@ -36,16 +39,6 @@ using json = nlohmann::ordered_json;
 std::string Shown(const std::string& text) {
     const std::string quoted = json(text).dump(-1, ' ', false, json::error_handler_t::replace);
     return quoted.substr(1, quoted.size() - 2);
-}
-
-std::string Hex(const unsigned char* bytes, std::size_t size) {
-    static const char digits[] = "0123456789abcdef";
-    std::string text;
-    for (std::size_t i = 0; i < size; ++i) {
-        text += digits[bytes[i] >> 4];
-        text += digits[bytes[i] & 15];
-    }
-    return text;
 }
 
 // Hex digits are text only: a number's digits would read as bytes (1234 as 12 34), and any other value
@@ -81,10 +74,10 @@ Clips::TextField KeywordField(std::size_t k) {
 
 // The text as UTF-8 and its flag, with "hex" added when writing the text back would not give the stored
 // bytes (a byte after the first NUL, a lone surrogate).
-json TextJson(const Clip& clip, Clips::TextField field) {
+json TextJson(const Clip& clip, Clips::TextField field, Unicode::Charset charset) {
     const bool unicode = Clips::IsTextUtf16(clip, field);
     const std::string stored = Clips::GetTextBytes(clip, field);
-    const std::string text = Clips::GetTextUtf8(clip, field);
+    const std::string text = Clips::GetTextUtf8(clip, field, charset);
     json out{{"text", text}};
     if (field >= Clips::TextField::Name) {  // texts 1 to 4 have no flag
         out["unicode"] = unicode;
@@ -92,18 +85,18 @@ json TextJson(const Clip& clip, Clips::TextField field) {
     Clip rewritten = clip;
     bool same = false;
     try {
-        Clips::SetTextUtf8(rewritten, field, text, unicode);
+        Clips::SetTextUtf8(rewritten, field, text, unicode, charset);
         same = Clips::GetTextBytes(rewritten, field) == stored;
     } catch (const std::invalid_argument&) {
     }
     if (!same) {
-        out["hex"] = Hex(reinterpret_cast<const unsigned char*>(stored.data()), stored.size());
+        out["hex"] = ToHex(reinterpret_cast<const unsigned char*>(stored.data()), stored.size());
     }
     return out;
 }
 
-std::string TextRow(const Clip& clip, Clips::TextField field) {
-    const json text = TextJson(clip, field);
+std::string TextRow(const Clip& clip, Clips::TextField field, Unicode::Charset charset) {
+    const json text = TextJson(clip, field, charset);
     std::string row = "\"" + text["text"].get<std::string>() + "\"";
     if (text.contains("unicode")) {
         row += text["unicode"].get<bool>() ? " (UTF-16)" : " (8-bit)";
@@ -344,17 +337,17 @@ json EssenceJson(Clip::Essence essence) {
     return out;
 }
 
-json ClipJson(Clip clip) {
+json ClipJson(Clip clip, Unicode::Charset charset) {
     json out;
     for (int i = 0; i < 4; ++i) {
-        out["text" + std::to_string(i + 1)] = TextJson(clip, static_cast<Clips::TextField>(i));
+        out["text" + std::to_string(i + 1)] = TextJson(clip, static_cast<Clips::TextField>(i), charset);
     }
-    out["name"] = TextJson(clip, Clips::TextField::Name);
-    out["varId"] = TextJson(clip, Clips::TextField::VarId);
+    out["name"] = TextJson(clip, Clips::TextField::Name, charset);
+    out["varId"] = TextJson(clip, Clips::TextField::VarId, charset);
     for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-        out["keywords"].push_back(TextJson(clip, KeywordField(k)));
+        out["keywords"].push_back(TextJson(clip, KeywordField(k), charset));
     }
-    out["rawBytes"] = Hex(clip.rawBytes, sizeof clip.rawBytes);
+    out["rawBytes"] = ToHex(clip.rawBytes, sizeof clip.rawBytes);
     out["is3D"] = clip.is3D;
     out["isDual"] = clip.isDual;
     out["isTwinRec"] = clip.isTwinRec;
@@ -385,17 +378,18 @@ json ClipJson(Clip clip) {
     return out;
 }
 
-Rows ClipRows(Clip clip) {
+Rows ClipRows(Clip clip, Unicode::Charset charset) {
     Rows rows;
     for (int i = 0; i < 4; ++i) {
-        rows.emplace_back("text " + std::to_string(i + 1), TextRow(clip, static_cast<Clips::TextField>(i)));
+        rows.emplace_back("text " + std::to_string(i + 1),
+                          TextRow(clip, static_cast<Clips::TextField>(i), charset));
     }
-    rows.emplace_back("name", TextRow(clip, Clips::TextField::Name));
-    rows.emplace_back("var-id", TextRow(clip, Clips::TextField::VarId));
+    rows.emplace_back("name", TextRow(clip, Clips::TextField::Name, charset));
+    rows.emplace_back("var-id", TextRow(clip, Clips::TextField::VarId, charset));
     for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-        rows.emplace_back("keyword " + std::to_string(k), TextRow(clip, KeywordField(k)));
+        rows.emplace_back("keyword " + std::to_string(k), TextRow(clip, KeywordField(k), charset));
     }
-    rows.emplace_back("raw bytes", Hex(clip.rawBytes, sizeof clip.rawBytes));
+    rows.emplace_back("raw bytes", ToHex(clip.rawBytes, sizeof clip.rawBytes));
     rows.emplace_back("3D", YesNo(clip.is3D));
     rows.emplace_back("dual", YesNo(clip.isDual));
     rows.emplace_back("twin-rec", YesNo(clip.isTwinRec));
@@ -438,7 +432,7 @@ Rows ClipRows(Clip clip) {
 
 // A text object into its field: {"text"} (8-bit, or UTF-16 when "unicode" is set) through the library,
 // or the stored bytes as "hex". Texts 1 to 4 have no "unicode".
-void ReadText(const json* value, Clip& clip, Clips::TextField field) {
+void ReadText(const json* value, Clip& clip, Clips::TextField field, Unicode::Charset charset) {
     if (value == nullptr) {
         return;
     }
@@ -459,7 +453,7 @@ void ReadText(const json* value, Clip& clip, Clips::TextField field) {
     if (readable == nullptr || !readable->is_string()) {
         throw Failure(text.Name("text") + ": a text expected");
     }
-    Clips::SetTextUtf8(clip, field, readable->get_ref<const std::string&>(), unicode);
+    Clips::SetTextUtf8(clip, field, readable->get_ref<const std::string&>(), unicode, charset);
 }
 
 Clip::Essence EssenceFrom(const json& value, Clips::Essences::Type type, const std::string& where) {
@@ -500,20 +494,42 @@ Clip::Essence EssenceFrom(const json& value, Clips::Essences::Type type, const s
 
 // The clip the JSON describes, through the library's own setters: the standard first, then the
 // timecodes at its rate.
-Clip ClipFrom(const json& document) {
-    Clip clip;
-    Fields fields(document, "");
-    for (int i = 0; i < 4; ++i) {
-        ReadText(fields.Take("text" + std::to_string(i + 1)), clip, static_cast<Clips::TextField>(i));
+// The record's byte order, from the "record" member decode --json writes; its other members (index,
+// offset, tag) say where the record came from and are not needed to write it.
+std::optional<bool> RecordFrom(const json& value) {
+    Fields fields(value, "record");
+    fields.Take("index");
+    fields.Take("offset");
+    fields.Take("tag");
+    const json* order = fields.Take("byteOrder");
+    fields.CheckAllTaken();
+    if (order == nullptr) {
+        return std::nullopt;
     }
-    ReadText(fields.Take("name"), clip, Clips::TextField::Name);
-    ReadText(fields.Take("varId"), clip, Clips::TextField::VarId);
+    if (*order == "little-endian" || *order == "big-endian") {
+        return *order == "big-endian";
+    }
+    throw Failure(fields.Name("byteOrder") + ": \"little-endian\" or \"big-endian\" expected");
+}
+
+ClipDocument ClipFrom(const json& document, Unicode::Charset charset) {
+    ClipDocument result;
+    Clip& clip = result.clip;
+    Fields fields(document, "");
+    if (const json* record = fields.Take("record")) {
+        result.bigEndian = RecordFrom(*record);
+    }
+    for (int i = 0; i < 4; ++i) {
+        ReadText(fields.Take("text" + std::to_string(i + 1)), clip, static_cast<Clips::TextField>(i), charset);
+    }
+    ReadText(fields.Take("name"), clip, Clips::TextField::Name, charset);
+    ReadText(fields.Take("varId"), clip, Clips::TextField::VarId, charset);
     if (const json* keywords = fields.Take("keywords")) {
         if (!keywords->is_array() || keywords->size() != Clip::KeywordCount) {
             throw Failure("keywords: five texts expected");
         }
         for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-            ReadText(&(*keywords)[k], clip, KeywordField(k));
+            ReadText(&(*keywords)[k], clip, KeywordField(k), charset);
         }
     }
     if (const json* raw = fields.Take("rawBytes")) {
@@ -565,7 +581,7 @@ Clip ClipFrom(const json& document) {
         }
     }
     fields.CheckAllTaken();
-    return clip;
+    return result;
 }
 
 // The line and column (from 1) of byte `at` of `text`, as the parser gives them.
@@ -585,7 +601,7 @@ std::string Where(const std::string& text, std::size_t at) {
 // Refuses nesting deeper than MaxClipJsonDepth before the parser sees it. The JSON library's walks over a
 // document (dump, comparison) recurse once per level, so a deep enough document would overflow the
 // stack in any of them. Brackets in strings do not count; an ill-formed document is left to the parser.
-void CheckNesting(const std::string& text, const std::string& name) {
+void CheckNesting(const std::string& text) {
     int depth = 0;
     bool inString = false;
     bool escaped = false;
@@ -603,8 +619,8 @@ void CheckNesting(const std::string& text, const std::string& name) {
             inString = true;
         } else if (c == '[' || c == '{') {
             if (++depth > MaxClipJsonDepth) {
-                throw Failure(name + ": " + Where(text, i) + ": nested deeper than " +
-                              std::to_string(MaxClipJsonDepth) + " levels");
+                throw Failure(Where(text, i) + ": nested deeper than " + std::to_string(MaxClipJsonDepth) +
+                              " levels");
             }
         } else if ((c == ']' || c == '}') && depth > 0) {
             --depth;
@@ -634,40 +650,34 @@ Clip DecodeRecord(const unsigned char* record, bool bigEndian) {
     return clip;
 }
 
-nlohmann::ordered_json ClipToJson(const Clip& clip) {
-    return ClipJson(clip);
+nlohmann::ordered_json ClipToJson(const Clip& clip, Unicode::Charset charset) {
+    return ClipJson(clip, charset);
 }
 
-std::string ClipJsonText(const Clip& clip) {
-    return ClipJson(clip).dump(2, ' ', false, json::error_handler_t::replace);
+Rows ClipToRows(const Clip& clip, Unicode::Charset charset) {
+    return ClipRows(clip, charset);
 }
 
-Rows ClipToRows(const Clip& clip) {
-    return ClipRows(clip);
+ClipDocument ClipFromJson(const nlohmann::ordered_json& document, Unicode::Charset charset) {
+    try {
+        return ClipFrom(document, charset);
+    } catch (const std::invalid_argument& error) {  // the clip's own refusals
+        throw Failure(error.what());
+    } catch (const std::out_of_range& error) {  // the timecode builder's
+        throw Failure(error.what());
+    }
 }
 
-Clip ClipFromJson(const nlohmann::ordered_json& document) {
-    return ClipFrom(document);
-}
-
-Clip ParseClipJson(const std::string& text, const std::string& name) {
-    CheckNesting(text, name);
+ClipDocument ParseClipJson(const std::string& text, Unicode::Charset charset) {
+    CheckNesting(text);
     json document;
     try {
         document = json::parse(text);
     } catch (const json::exception& error) {
         // A parse error, or a number too large for a double (out_of_range 406).
-        throw Failure(name + ": " + WhatWentWrong(error));
+        throw Failure(WhatWentWrong(error));
     }
-    try {
-        return ClipFrom(document);
-    } catch (const Failure& error) {
-        throw Failure(name + ": " + error.what());
-    } catch (const std::invalid_argument& error) {  // the clip's own refusals
-        throw Failure(name + ": " + error.what());
-    } catch (const std::out_of_range& error) {  // the timecode builder's
-        throw Failure(name + ": " + error.what());
-    }
+    return ClipFromJson(document, charset);
 }
 
 }  // namespace PlurexTool

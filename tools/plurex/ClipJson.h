@@ -6,10 +6,12 @@
 #include "Output.h"
 
 #include "PlurexData/data/clips/Clip.h"
+#include "PlurexData/unicode/Charset.h"
 
 #include <nlohmann/json.hpp>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace PlurexTool {
@@ -24,21 +26,32 @@ constexpr int MaxClipJsonDepth = 16;
 // Throws the library's exception for a record the clip refuses.
 Korv::Plurex::Data::Clips::Clip DecodeRecord(const unsigned char* record, bool bigEndian);
 
-// Every field in the clip's order. Texts are {"text", "unicode"} with "hex" added when the text does not
-// give back the stored bytes; enumerations are names, or numbers where no name reads back to the value;
-// timecodes carry date, time and frame when a builder can make them, and always their count.
-nlohmann::ordered_json ClipToJson(const Korv::Plurex::Data::Clips::Clip& clip);
-// ClipToJson as printed: two-space indent, bytes that are not UTF-8 replaced.
-std::string ClipJsonText(const Korv::Plurex::Data::Clips::Clip& clip);
-Rows ClipToRows(const Korv::Plurex::Data::Clips::Clip& clip);
+// The charset 8-bit clip texts are shown in and read from, unless --charset says otherwise.
+constexpr auto DefaultTextCharset = Korv::Plurex::Unicode::Charset::CodePage28591;
 
+// Every field in the clip's order. Texts are {"text", "unicode"} with "hex" added when the text does not
+// give back the stored bytes; 8-bit texts read through `charset`; enumerations are names, or numbers
+// where no name reads back to the value; timecodes carry date, time and frame when a builder can make
+// them, and always their count.
+nlohmann::ordered_json ClipToJson(const Korv::Plurex::Data::Clips::Clip& clip,
+                                  Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
+Rows ClipToRows(const Korv::Plurex::Data::Clips::Clip& clip,
+                Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
+
+// A clip document as encode reads it: the clip, and the byte order its "record" member names (decode
+// --json writes one), if any.
+struct ClipDocument {
+    Korv::Plurex::Data::Clips::Clip clip;
+    std::optional<bool> bigEndian;
+};
+
+// The clip a parsed document describes (see ParseClipJson); throws as it does, the JSON being parsed.
+ClipDocument ClipFromJson(const nlohmann::ordered_json& document,
+                          Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
 // The clip a document describes, through the library's own setters: fields left out keep the default
-// clip's values; unknown fields are refused. Throws a Failure naming the field, or the library's
-// exception for a value the clip refuses.
-Korv::Plurex::Data::Clips::Clip ClipFromJson(const nlohmann::ordered_json& document);
-// ClipFromJson of JSON text. Every error throws a Failure "NAME: WHAT": syntax and nesting with line and
-// column, a field with its path, the library's message for a value the clip refuses. No exception of
-// the JSON library leaves.
-Korv::Plurex::Data::Clips::Clip ParseClipJson(const std::string& text, const std::string& name);
+// clip's values; unknown fields are refused; 8-bit texts are written through `charset`. Every error
+// throws a Failure: syntax and nesting with line and column, a field with its path, the library's message
+// for a value the clip refuses. No exception of the JSON library leaves.
+ClipDocument ParseClipJson(const std::string& text, Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
 
 }  // namespace PlurexTool

@@ -6,7 +6,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace PlurexTool {
@@ -16,25 +18,56 @@ namespace {
 namespace Clips = Korv::Plurex::Data::Clips;
 namespace Essences = Korv::Plurex::Data::Clips::Essences;
 
-// One enumeration as the tool offers it: its named values, and the library's two conversions.
+// One row of a table: a value and its name.
+struct Row {
+    std::int32_t value;
+    std::string name;
+    bool isDefault;
+};
+
+// One enumeration as the tool offers it: its table's rows, and the library's two conversions.
 struct Enumeration {
     std::string name;
-    std::vector<std::int32_t> values;
+    std::vector<Row> rows;
     std::string (*toString)(std::int32_t);
     std::int32_t (*toValue)(const std::string&);
 
-    // Whatever no name reads as.
-    std::int32_t Default() const { return toValue(std::string()); }
+    // The row unknown names read as and unknown values print as: the one the table marks (every table
+    // has one).
+    const Row& Default() const {
+        for (const Row& row : rows) {
+            if (row.isDefault) {
+                return row;
+            }
+        }
+        throw std::logic_error("the " + name + " table marks no default");
+    }
+
+    bool HasRow(std::int32_t value) const {
+        for (const Row& row : rows) {
+            if (row.value == value) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // Whether the library's lookup finds a row for `text`: a name that reads as another value than the
+    // default does, and so does the default's own name, which reads as the default like every unknown
+    // name.
+    bool Knows(const std::string& text) const {
+        return toValue(text) != Default().value || text == Default().name;
+    }
 };
 
 // The named values are the table's rows, in the library's table order.
 template <class E, E (*To)(const std::string&) noexcept>
 Enumeration Of(std::string name) {
-    std::vector<std::int32_t> values;
+    std::vector<Row> rows;
     for (const auto& row : Korv::Plurex::Data::GetRows<E>()) {
-        values.push_back(static_cast<std::int32_t>(row.value));
+        rows.push_back({static_cast<std::int32_t>(row.value), row.name, row.isDefault});
     }
-    return {std::move(name), std::move(values),
+    return {std::move(name), std::move(rows),
             [](std::int32_t value) { return std::string(ToString(static_cast<E>(value))); },
             [](const std::string& text) { return static_cast<std::int32_t>(To(text)); }};
 }
@@ -76,102 +109,131 @@ const std::vector<Enumeration>& Enumerations() {
     return all;
 }
 
-std::vector<std::string> EnumerationNames() {
-    std::vector<std::string> names;
-    for (const Enumeration& enumeration : Enumerations()) {
-        names.push_back(enumeration.name);
-    }
-    return names;
-}
-
+// The enumeration named `name`: the verbs' validator has checked it.
 const Enumeration& Find(const std::string& name) {
     for (const Enumeration& enumeration : Enumerations()) {
         if (enumeration.name == name) {
             return enumeration;
         }
     }
-    throw Failure("unknown enumeration: " + name);
+    throw std::logic_error("unknown enumeration \"" + name + "\"");
 }
 
-nlohmann::json TableJson(const Enumeration& enumeration) {
-    nlohmann::json values = nlohmann::json::array();
-    for (std::int32_t value : enumeration.values) {
-        values.push_back({{"value", value}, {"name", enumeration.toString(value)}});
+nlohmann::ordered_json TableJson(const Enumeration& enumeration) {
+    nlohmann::ordered_json values = nlohmann::ordered_json::array();
+    for (const Row& row : enumeration.rows) {
+        values.push_back({{"value", row.value}, {"name", row.name}});
     }
-    return {{"enum", enumeration.name}, {"default", enumeration.Default()}, {"values", values}};
+    return {{"enum", enumeration.name}, {"default", enumeration.Default().value}, {"values", values}};
 }
 
+// An unknown enumeration is a usage error, as a misspelt verb is.
 CLI::Option* AddEnumerationArgument(CLI::App& verb, std::string& name) {
-    return verb.add_option("ENUM", name, "Enumeration: a clip one (Camera) or Essences::<name>")
-        ->check(CLI::IsMember(EnumerationNames()));
+    return verb
+        .add_option("ENUM", name,
+                    "Enumeration: a clip one (Camera) or Essences::<name>; see: plurex enum list")
+        ->check(CLI::Validator(
+            [](std::string& text) {
+                for (const Enumeration& enumeration : Enumerations()) {
+                    if (enumeration.name == text) {
+                        return std::string();
+                    }
+                }
+                return "unknown enumeration \"" + text + "\"";
+            },
+            ""));
 }
 
-void AddList(CLI::App& enumCommand, const Options& options) {
-    auto* list = enumCommand.add_subcommand("list", "List the enumerations, or the values and names of one");
+void AddList(CLI::App& enumCommand, Options& options) {
+    auto* list = enumCommand.add_subcommand(
+        "list", "List the enumerations (JSON Lines: one table a line), or the values and names of one");
     auto name = std::make_shared<std::string>();
     AddEnumerationArgument(*list, *name);
-    list->callback([&options, name] {
+    Example(*list, "plurex enum list\nplurex enum list Camera");
+    OnRun(*list, options, [&options, name] {
         if (name->empty()) {
-            nlohmann::json json = nlohmann::json::array();
             Rows rows;
             for (const Enumeration& enumeration : Enumerations()) {
-                json.push_back(TableJson(enumeration));
-                rows.emplace_back(enumeration.name, std::to_string(enumeration.values.size()) +
+                if (options.json) {
+                    PrintLine(TableJson(enumeration));
+                }
+                rows.emplace_back(enumeration.name, std::to_string(enumeration.rows.size()) +
                                                         " names, default " +
-                                                        std::to_string(enumeration.Default()));
+                                                        std::to_string(enumeration.Default().value));
             }
-            Print(options, json, rows);
+            if (!options.json) {
+                PrintRows(rows);
+            }
             return;
         }
         const Enumeration& enumeration = Find(*name);
         Rows rows;
-        for (std::int32_t value : enumeration.values) {
-            rows.emplace_back(
-                std::to_string(value),
-                enumeration.toString(value) + (value == enumeration.Default() ? " (default)" : ""));
+        for (const Row& row : enumeration.rows) {
+            rows.emplace_back(std::to_string(row.value), row.name + (row.isDefault ? " (default)" : ""));
         }
         Print(options, TableJson(enumeration), rows);
     });
 }
 
-void AddName(CLI::App& enumCommand, const Options& options) {
-    auto* nameVerb =
-        enumCommand.add_subcommand("name", "Print the name of a value (unknown values print as the default)");
+void AddName(CLI::App& enumCommand, Options& options) {
+    auto* nameVerb = enumCommand.add_subcommand("name", "Print the name of a value");
     struct Values {
         std::string enumeration;
         std::int32_t value = 0;
+        bool fallback = false;
     };
     auto values = std::make_shared<Values>();
     AddEnumerationArgument(*nameVerb, values->enumeration)->required();
     nameVerb->add_option("VALUE", values->value, "The number")->required();
-    nameVerb->callback([&options, values] {
+    nameVerb->add_flag("--default", values->fallback,
+                       "A value without a row prints as the default's name, as the library does, "
+                       "instead of failing");
+    Example(*nameVerb, "plurex enum name VideoFormat 3\nplurex enum name --default UserProtect 17");
+    OnRun(*nameVerb, options, [&options, values] {
         const Enumeration& enumeration = Find(values->enumeration);
+        const bool known = enumeration.HasRow(values->value);
+        if (!known && !values->fallback) {
+            throw Failure("unknown " + enumeration.name + " value " + std::to_string(values->value));
+        }
         const std::string name = enumeration.toString(values->value);
-        Print(options, nlohmann::json{{"enum", enumeration.name}, {"value", values->value}, {"name", name}},
+        Print(options,
+              nlohmann::ordered_json{
+                  {"enum", enumeration.name}, {"value", values->value}, {"name", name}, {"known", known}},
               name);
     });
 }
 
-void AddValue(CLI::App& enumCommand, const Options& options) {
-    auto* valueVerb = enumCommand.add_subcommand(
-        "value", "Print the value of a name (exact and case-sensitive; others read as the default)");
+void AddValue(CLI::App& enumCommand, Options& options) {
+    auto* valueVerb =
+        enumCommand.add_subcommand("value", "Print the value of a name (exact and case-sensitive)");
     struct Values {
         std::string enumeration, name;
+        bool fallback = false;
     };
     auto values = std::make_shared<Values>();
     AddEnumerationArgument(*valueVerb, values->enumeration)->required();
     valueVerb->add_option("NAME", values->name, "The name")->required();
-    valueVerb->callback([&options, values] {
+    valueVerb->add_flag("--default", values->fallback,
+                        "A name without a row reads as the default, as the library does, instead of failing");
+    Example(*valueVerb,
+            "plurex enum value Essences::Metadata LongGopNone\nplurex enum value --default Camera M");
+    OnRun(*valueVerb, options, [&options, values] {
         const Enumeration& enumeration = Find(values->enumeration);
+        const bool known = enumeration.Knows(values->name);
+        if (!known && !values->fallback) {
+            throw Failure("unknown " + enumeration.name + " name \"" + values->name + "\"");
+        }
         const std::int32_t value = enumeration.toValue(values->name);
-        Print(options, nlohmann::json{{"enum", enumeration.name}, {"name", values->name}, {"value", value}},
+        Print(options,
+              nlohmann::ordered_json{
+                  {"enum", enumeration.name}, {"name", values->name}, {"value", value}, {"known", known}},
               std::to_string(value));
     });
 }
 
 }  // namespace
 
-void AddEnumCommands(CLI::App& root, const Options& options) {
+void AddEnumCommands(CLI::App& root, Options& options) {
     auto* enumCommand =
         root.add_subcommand("enum", "Convert the clip and essence enumerations between values and names");
     enumCommand->require_subcommand(1);

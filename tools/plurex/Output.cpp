@@ -5,26 +5,37 @@
 
 namespace PlurexTool {
 
-namespace {
-// Text fields may hold bytes that are not UTF-8; JSON output replaces them rather than failing.
-std::string Dump(const nlohmann::json& json) {
-    return json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace);
+std::string JsonText(const nlohmann::ordered_json& json, bool oneLine) {
+    return json.dump(oneLine ? -1 : 2, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
-}  // namespace
 
-void Print(const Options& options, const nlohmann::json& json, const std::string& text) {
-    if (options.json) {
-        std::cout << Dump(json) << '\n';
+int Report(bool json, const Failure& failure) {
+    if (json) {
+        nlohmann::ordered_json context = nullptr;
+        if (!failure.Context().empty()) {
+            context = failure.Context();
+        }
+        std::cerr << JsonText({{"error", failure.what()}, {"context", context}}, true) << '\n';
     } else {
-        std::cout << text << '\n';
+        std::cerr << "plurex: " << (failure.Context().empty() ? "" : failure.Context() + ": ") << failure.what()
+                  << '\n';
+    }
+    return failure.Status();
+}
+
+void Print(const Options& options, const nlohmann::ordered_json& json, const std::string& text) {
+    std::cout << (options.json ? JsonText(json) : text) << '\n';
+}
+
+void Print(const Options& options, const nlohmann::ordered_json& json, const Rows& rows) {
+    if (options.json) {
+        std::cout << JsonText(json) << '\n';
+    } else {
+        PrintRows(rows);
     }
 }
 
-void Print(const Options& options, const nlohmann::json& json, const Rows& rows) {
-    if (options.json) {
-        std::cout << Dump(json) << '\n';
-        return;
-    }
+void PrintRows(const Rows& rows) {
     std::size_t width = 0;
     for (const auto& row : rows) {
         width = std::max(width, row.first.size());
@@ -32,6 +43,10 @@ void Print(const Options& options, const nlohmann::json& json, const Rows& rows)
     for (const auto& row : rows) {
         std::cout << row.first << std::string(width - row.first.size() + 2, ' ') << row.second << '\n';
     }
+}
+
+void PrintLine(const nlohmann::ordered_json& json) {
+    std::cout << JsonText(json, true) << '\n';
 }
 
 std::string YesNo(bool value) {
