@@ -118,13 +118,16 @@ plurex_add_tool_test(clip.decode.bad-tag ARGS clip decode ${inputs}/bad-tag.bin 
     STDOUT "\nrecord +1 at offset 290\n"
     STDERR "^plurex: .*/bad-tag.bin: record 2 at offset 580: tag 0x1234, not a clip record\n$")
 
-# Hex dumps in each form engineers paste: xxd's layout, xxd -p, spaced bytes, C-style 0x bytes.
-foreach(dump clip-le.xxd clip-be.hex spaced.hex c-array.hex)
+# Hex dumps in each form engineers paste: xxd's layout, xxd -p, spaced bytes, C-style 0x bytes (with
+# one digit or two).
+foreach(dump clip-le.xxd clip-be.hex spaced.hex c-array.hex short-0x.hex)
     plurex_add_tool_test(clip.decode.hex.${dump} ARGS clip decode --hex ${inputs}/${dump}
         STDOUT "\nvar-id +\"Über-Replay №7\" \\(UTF-16\\)\n")
 endforeach()
 plurex_add_tool_test(clip.decode.hex.odd ARGS clip decode --hex ${inputs}/odd.hex EXIT 1
     STDERR "^plurex: .*/odd.hex: an odd number of hex digits \\(579\\): the last byte is cut short\n$")
+plurex_add_tool_test(clip.decode.hex.long-0x ARGS clip decode --hex ${inputs}/long-0x.hex EXIT 1
+    STDERR "^plurex: .*/long-0x.hex: line 1, column 7: 0x takes one or two hex digits\n$")
 plurex_add_tool_test(clip.decode.hex.digit ARGS clip decode --hex ${inputs}/bad-digit.hex EXIT 1
     STDERR "^plurex: .*/bad-digit.hex: line 2, column 5: not a hex digit: 'g'\n$")
 plurex_add_tool_test(clip.decode.hex.forgotten ARGS clip decode ${inputs}/clip-be.hex EXIT 1
@@ -155,7 +158,7 @@ add_test(NAME tool.clip.encode.keeps
 plurex_add_tool_test(clip.encode.lines.error ARGS clip encode ${inputs}/lines.jsonl -o /dev/null EXIT 1
     STDERR "^plurex: .*/lines.jsonl: line 3: unknown field: nmae\n$")
 plurex_add_tool_test(clip.encode.lines.syntax ARGS clip encode ${inputs}/lines-syntax.jsonl -o /dev/null EXIT 1
-    STDERR "^plurex: .*/lines-syntax.jsonl: line 2: column 2: syntax error while parsing object key - invalid literal; last read: '{x'; expected string literal\n$")
+    STDERR "^plurex: .*/lines-syntax.jsonl: line 2, column 2: syntax error while parsing object key - invalid literal; last read: '{x'; expected string literal\n$")
 
 # diff: exit 0 equal, 1 different, 2 trouble; the same clip from either byte order is equal.
 plurex_add_tool_test(clip.diff.equal ARGS clip diff ${examples}/clip-le.bin ${examples}/clip-be.bin STDOUT "^$")
@@ -170,6 +173,9 @@ plurex_add_tool_test(clip.diff.all.json ARGS --json clip diff --all ${inputs}/ig
     STDOUT "^{\n  \"equal\": true,\n  \"differences\": \\[\n    {\n      \"field\": \"attribute2\",\n      \"a\": \"ToStore\",\n      \"b\": \"NoStore\",\n      \"compared\": false\n")
 plurex_add_tool_test(clip.diff.trouble ARGS clip diff ${inputs}/capture.bin ${examples}/clip-le.bin EXIT 2
     STDERR "^plurex: .*/capture.bin: 870 bytes; clip diff compares one record of 290 bytes, or a clip as JSON\n$")
+# Trouble writing the differences is trouble too, not "different".
+plurex_add_tool_test(clip.diff.full ARGS clip diff ${examples}/clip-le.bin ${inputs}/ignored.json STDOUT_FILE /dev/full
+    EXIT 2 STDERR "^plurex: cannot write standard output: No space left on device\n$")
 plurex_add_tool_test(clip.diff.missing ARGS clip diff ${inputs}/missing.bin ${examples}/clip-le.bin EXIT 2
     STDERR "^plurex: cannot open .*/missing.bin: No such file or directory\n$")
 

@@ -25,3 +25,8 @@ add_test(NAME tool.common.output.mode
 add_test(NAME tool.common.closed-pipe
     COMMAND sh -c "dir=$1; shift; (trap '' PIPE; \"$@\" guid new -n 200000 2> \"$dir/pipe.err\"; echo $? > \"$dir/pipe.status\") | head -c 1 > /dev/null; test \"$(cat \"$dir/pipe.status\")\" = 1 && test \"$(cat \"$dir/pipe.err\")\" = 'plurex: cannot write standard output: Broken pipe'"
             sh ${CMAKE_CURRENT_BINARY_DIR} ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:plurex>)
+# A closed standard input stays closed with -o: the output file does not become the input.
+if(NOT CMAKE_CROSSCOMPILING_EMULATOR)
+    plurex_add_tool_test(common.closed-input ARGS -o ${CMAKE_CURRENT_BINARY_DIR}/closed.txt text convert -f utf-8 -t ascii
+        STDIN_CLOSED EXIT 1 STDERR "^plurex: cannot read standard input: Bad file descriptor\n$")
+endif()

@@ -53,7 +53,6 @@ plurex_add_tool_test(umid.macro ARGS umid @PLS042!
     STDOUT "pattern      no\nmacro        yes\nedit number  42\n$")
 plurex_add_tool_test(umid.black.json ARGS --json umid @BLKCLP!
     STDOUT "\"black\": true,\n  \"pattern\": true,\n  \"macro\": false,\n  \"editNumber\": -1\n}\n$")
-plurex_add_tool_test(usage ARGS frobnicate EXIT 2)
 
 string(REPLACE "." "\\." version_pattern "${PROJECT_VERSION}")
 plurex_add_tool_test(version ARGS --version

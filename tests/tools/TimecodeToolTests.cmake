@@ -29,7 +29,7 @@ add_test(NAME tool.timecode.check.semicolon
     COMMAND sh -c "expected=\"$1\"; shift; test \"$(\"$@\" timecode check 1900-01-02 '00:01:00$<SEMICOLON>04' --rate 60)\" = \"$expected\""
             sh "valid\ntotal sample 5182416" ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:plurex>)
 plurex_add_tool_test(timecode.check.json ARGS --json timecode check 2024-02-29 23:59:59:49 --rate 50/1
-    STDOUT "^{\n  \"valid\": true,\n  \"totalSample\": 195911999999,\n  \"rate\": \"50/1\",\n  \"drop\": false\n}\n$")
+    STDOUT "^{\n  \"valid\": true,\n  \"count\": 195911999999,\n  \"rate\": \"50/1\",\n  \"drop\": false\n}\n$")
 
 # An invalid timecode: the builder's message on stderr with status 1, or under --json an answer on
 # standard output (stderr empty), still with status 1.
@@ -61,7 +61,7 @@ plurex_add_tool_test(timecode.check.negative-frame ARGS timecode check 2024-01-0
     STDERR "expected HH:MM:SS:FF or HH:MM:SS.FF: 10:00:00:-1")
 
 plurex_add_tool_test(timecode.decode.json ARGS --json timecode decode 235562872932 --rate 60 --drop
-    STDOUT "^{\n  \"text\": \"2024-07-14 20:31:00[^:]04\",\n  \"count\": 235562872932,\n  \"rate\": \"60/1\",\n  \"drop\": true,\n  \"year\": 2024,\n  \"month\": 7,\n  \"day\": 14,\n  \"hour\": 20,\n  \"minute\": 31,\n  \"second\": 0,\n  \"frame\": 4\n}\n$")
+    STDOUT "^{\n  \"rate\": \"60/1\",\n  \"drop\": true,\n  \"count\": 235562872932,\n  \"date\": \"2024-07-14\",\n  \"time\": \"20:31:00\",\n  \"frame\": 4,\n  \"text\": \"2024-07-14 20:31:00[^:]04\"\n}\n$")
 # A count no builder splits: FromTimeCode's reason, in its order.
 foreach(case "685418112000|60||year 2262 must be between 1900 and 2261" "-1|50||TotalSample -1 is negative"
              "-1|25|--drop|TotalSample -1 is negative" "9|25|--drop|Rate 25 / 1 is not compatible with drop TC format"
@@ -85,7 +85,7 @@ foreach(case "0xc0000036d8a43064|2024-07-14 20:31:00[^:]04" "C0000036D8A43064|20
     plurex_add_tool_test(timecode.decode.word.${word} ARGS timecode decode --word ${word} STDOUT "^${shown}\n$")
 endforeach()
 plurex_add_tool_test(timecode.decode.word.json ARGS --json timecode decode --word 0x4000000000000e10
-    STDOUT "^{\n  \"text\": \"1900-01-01 00:01:00:00\",\n  \"count\": 3600,\n  \"rate\": \"60/1\",\n  \"drop\": false,")
+    STDOUT "^{\n  \"rate\": \"60/1\",\n  \"drop\": false,\n  \"count\": 3600,\n  \"date\": \"1900-01-01\",\n  \"time\": \"00:01:00\",\n  \"frame\": 0,\n  \"text\": \"1900-01-01 00:01:00:00\"\n}\n$")
 plurex_add_tool_test(timecode.decode.word.year ARGS timecode decode --word 0x3fffffffffffffff EXIT 1
     STDERR "^plurex: year [0-9]+ must be between 1900 and 2261\n$")
 foreach(word "0x10000000000000000" "-1" "0x" "+1" "12g")

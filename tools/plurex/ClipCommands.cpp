@@ -29,6 +29,13 @@ using Clips::Serializer;
 
 constexpr std::uint64_t RecordSize = Serializer::RecordSize;
 
+// A 16-bit tag as shown: 0x0700.
+std::string TagText(unsigned int tag) {
+    char text[8];
+    std::snprintf(text, sizeof text, "0x%04X", tag);
+    return text;
+}
+
 std::string ByteOrderName(bool bigEndian) {
     return bigEndian ? "big-endian" : "little-endian";
 }
@@ -102,9 +109,8 @@ RecordRead ReadRecord(const unsigned char* record, std::optional<bool> forced) {
     if (!tagged || (forced && *forced != *tagged)) {
         // Shown in the order the record is read in; little-endian when the tag was to choose it.
         const bool big = forced.value_or(false);
-        char tag[8];
-        std::snprintf(tag, sizeof tag, "0x%04X", big ? record[0] << 8 | record[1] : record[1] << 8 | record[0]);
-        std::string message = std::string("tag ") + tag + ", not a clip record";
+        std::string message =
+            "tag " + TagText(big ? record[0] << 8 | record[1] : record[1] << 8 | record[0]) + ", not a clip record";
         if (tagged) {
             message += " in " + ByteOrderName(big) + " order (it is a " + ByteOrderName(*tagged) + " record's tag)";
         } else if (std::isxdigit(record[0]) && std::isxdigit(record[1])) {
@@ -129,9 +135,8 @@ class RecordSource {
 public:
     RecordSource(Input& input, bool hex) : input_(input) {
         if (hex) {
-            bytes_ = InContext(input.Name(), [&] {
-                return ParseHexDump(input.ReadAll(MaxHexDumpSize, "clip decode --hex"));
-            });
+            const std::string dump = input.ReadAll(MaxHexDumpSize, "clip decode --hex");
+            bytes_ = InContext(input.Name(), [&] { return ParseHexDump(dump); });
         }
         hex_ = hex;
     }
@@ -176,7 +181,7 @@ void PrintRecord(const Options& options, const RecordRead& read, std::uint64_t i
     }
     Rows rows{{"record", std::to_string(index) + " at offset " + std::to_string(offset)},
               {"byte order", ByteOrderName(read.bigEndian) + (read.fromTag ? " (from the tag)" : " (as told)")},
-              {"tag", "0x0700"}};
+              {"tag", TagText(Serializer::RecordTag)}};
     const Rows clip = ClipToRows(read.clip, charset);
     rows.insert(rows.end(), clip.begin(), clip.end());
     if (!first) {
@@ -261,16 +266,18 @@ bool IsBlank(const std::string& line) {
     return line.find_first_not_of(" \t\r") == std::string::npos;
 }
 
-// One JSON Lines document's error, placed on its line: the parser's "line 1, " is the line itself.
-ClipDocument ParseLine(const std::string& line, Unicode::Charset charset) {
+// One JSON Lines document: its errors name its line, as a single document's name theirs ("line 3,
+// column 7: ...", or "line 3: " before a field's error).
+ClipDocument ParseLine(const std::string& line, std::size_t number, Unicode::Charset charset) {
     try {
         return ParseClipJson(line, charset);
     } catch (const Failure& failure) {
         std::string message = failure.what();
+        const std::string where = "line " + std::to_string(number);
         if (message.compare(0, 8, "line 1, ") == 0) {
-            message.erase(0, 8);
+            throw Failure(where + message.substr(6));
         }
-        throw Failure(message);
+        throw Failure(message, where);
     }
 }
 
@@ -312,8 +319,7 @@ void Encode(const Options& options, const EncodeValues& values) {
         return;
     }
     const auto write = [&](const std::string& document, std::size_t number) {
-        const std::string context = input.Name() + ": line " + std::to_string(number);
-        writer.Write(InContext(context, [&] { return ParseLine(document, charset); }));
+        writer.Write(InContext(input.Name(), [&] { return ParseLine(document, number, charset); }));
     };
     write(first, firstLine);
     do {

@@ -32,8 +32,8 @@ struct DiffValues : RecordOptions {
 // under --hex).
 Clip LoadClip(const std::string& path, const DiffValues& values) {
     Input input(path);
+    std::string bytes = input.ReadAll(values.hex ? MaxHexDumpSize : MaxClipJsonSize, "clip diff");
     return InContext(input.Name(), [&] {
-        std::string bytes = input.ReadAll(values.hex ? MaxHexDumpSize : MaxClipJsonSize, "clip diff");
         const std::size_t start = bytes.find_first_not_of(" \t\r\n");
         if (start != std::string::npos && bytes[start] == '{') {
             return ParseClipJson(bytes, values.TextCharset()).clip;
@@ -107,13 +107,8 @@ std::string Shown(const json& value) {
 }
 
 int Diff(const Options& options, const DiffValues& values) {
-    Clip a, b;
-    try {
-        a = LoadClip(values.a, values);
-        b = LoadClip(values.b, values);
-    } catch (const Failure& failure) {
-        throw Failure(failure.what(), failure.Context(), 2);
-    }
+    const Clip a = LoadClip(values.a, values);
+    const Clip b = LoadClip(values.b, values);
     const bool equal = a == b;
     std::vector<Difference> shown = Differences(a, b, values.TextCharset());
     if (!values.all) {
@@ -163,7 +158,10 @@ void AddClipDiff(CLI::App& clip, Options& options) {
                    "Also show the fields the clip's == ignores (marked *); the exit status still follows ==");
     AddRecordOptions(*diff, *values, true);
     Example(*diff, "plurex clip diff before.bin after.bin\nplurex clip diff --all record.bin clip.json");
-    OnRunWithStatus(*diff, options, [&options, values] { return Diff(options, *values); });
+    OnRunWithStatus(*diff, options, [&options, values] {
+        options.errorStatus = 2;  // trouble of any kind, the output's included, is not "different"
+        return Diff(options, *values);
+    });
 }
 
 }  // namespace PlurexTool

@@ -252,12 +252,7 @@ json TimecodeJson(const TimeCode& timeCode) {
     json out{{"rate", timeCode.GetRate().GetNumerator()},
              {"drop", timeCode.IsDropFrame()},
              {"count", timeCode.GetTotalSample()}};
-    if (const auto split = TimeCodeBuilder::TryFromTimeCode(timeCode)) {
-        const std::string text = timeCode.ToString();  // "YYYY-MM-DD HH:MM:SS:FF"
-        out["date"] = text.substr(0, 10);
-        out["time"] = text.substr(11, 8);
-        out["frame"] = split->GetFields().sample;
-    }
+    out.update(TimecodeDateJson(timeCode));
     return out;
 }
 
@@ -643,6 +638,17 @@ std::string WhatWentWrong(const json::exception& error) {
 }
 
 }  // namespace
+
+nlohmann::ordered_json TimecodeDateJson(const TimeCode& timeCode) {
+    json out = json::object();
+    if (const auto split = TimeCodeBuilder::TryFromTimeCode(timeCode)) {
+        const std::string text = timeCode.ToString();  // "YYYY-MM-DD HH:MM:SS:FF"
+        out["date"] = text.substr(0, 10);
+        out["time"] = text.substr(11, 8);
+        out["frame"] = split->GetFields().sample;
+    }
+    return out;
+}
 
 Clip DecodeRecord(const unsigned char* record, bool bigEndian) {
     Clip clip;

@@ -26,6 +26,10 @@ constexpr int MaxClipJsonDepth = 16;
 // Throws the library's exception for a record the clip refuses.
 Korv::Plurex::Data::Clips::Clip DecodeRecord(const unsigned char* record, bool bigEndian);
 
+// A timecode's "date" (YYYY-MM-DD), "time" (HH:MM:SS) and "frame", as the clip's timecodes and
+// timecode decode show them; empty for a timecode no builder makes.
+nlohmann::ordered_json TimecodeDateJson(const Korv::TimePoints::TimeCode& timeCode);
+
 // The charset 8-bit clip texts are shown in and read from, unless --charset says otherwise.
 constexpr auto DefaultTextCharset = Korv::Plurex::Unicode::Charset::CodePage28591;
 

@@ -21,7 +21,22 @@ namespace {
 
 constexpr std::size_t ChunkSize = 64 * 1024;
 
+// Whether standard input and output were closed when the run began (KeepStandardDescriptors).
+bool inputClosed = false;
+bool outputClosed = false;
+
 }  // namespace
+
+void KeepStandardDescriptors() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(descriptor, F_GETFD) == -1 && errno == EBADF) {
+            // The lowest free number: this one.
+            ::open("/dev/null", descriptor == STDIN_FILENO ? O_RDONLY : O_WRONLY);
+            inputClosed = inputClosed || descriptor == STDIN_FILENO;
+            outputClosed = outputClosed || descriptor == STDOUT_FILENO;
+        }
+    }
+}
 
 Input::Input(const std::string& path) : descriptor_(STDIN_FILENO), owned_(false), name_("standard input") {
     if (path != "-") {
@@ -32,9 +47,12 @@ Input::Input(const std::string& path) : descriptor_(STDIN_FILENO), owned_(false)
         owned_ = true;
         name_ = path;
     }
+    if (!owned_ && inputClosed) {
+        ReadFailed(EBADF);  // <&-
+    }
     struct stat status {};
     if (::fstat(descriptor_, &status) != 0) {
-        ReadFailed(errno);  // a closed standard input (<&-)
+        ReadFailed(errno);
     }
     if (S_ISDIR(status.st_mode)) {
         // Said before anything is read: a directory opens, and only its first read fails.
@@ -48,9 +66,10 @@ Input::~Input() {
     }
 }
 
-void Input::ReadFailed(int error) const {
+void Input::ReadFailed(int error) {
     if (owned_) {
         ::close(descriptor_);
+        owned_ = false;
     }
     throw Failure("cannot read " + name_ + ": " + std::strerror(error));
 }
@@ -172,7 +191,7 @@ bool Input::ReadLine(std::string& line, std::size_t limit, const std::string& ve
 // A stream buffer over a descriptor that keeps the first write error, so that it can be named.
 class OutputTarget::Buffered : public std::streambuf {
 public:
-    explicit Buffered(int descriptor) : descriptor_(descriptor), buffer_(ChunkSize) {
+    Buffered(int descriptor, int error) : descriptor_(descriptor), buffer_(ChunkSize), error_(error) {
         setp(buffer_.data(), buffer_.data() + buffer_.size());
     }
 
@@ -214,7 +233,7 @@ private:
 
     int descriptor_;
     std::vector<char> buffer_;
-    int error_ = 0;
+    int error_;
 };
 
 namespace {
@@ -230,7 +249,7 @@ mode_t NewFileMode() {
 
 OutputTarget::OutputTarget(const std::string& path) {
     if (path.empty() || path == "-") {
-        buffer_ = std::make_unique<Buffered>(STDOUT_FILENO);
+        buffer_ = std::make_unique<Buffered>(STDOUT_FILENO, outputClosed ? EBADF : 0);  // >&-
         return;
     }
     path_ = path;
@@ -240,7 +259,7 @@ OutputTarget::OutputTarget(const std::string& path) {
         if (descriptor < 0) {
             throw Failure("cannot open " + path + ": " + std::strerror(errno));
         }
-        buffer_ = std::make_unique<Buffered>(descriptor);
+        buffer_ = std::make_unique<Buffered>(descriptor, 0);
         return;
     }
     // The temporary file sits beside the file it replaces (through a symbolic link, beside its target),
@@ -259,7 +278,7 @@ OutputTarget::OutputTarget(const std::string& path) {
     ::fchmod(descriptor, S_ISREG(status.st_mode) ? status.st_mode & 07777 : NewFileMode());
     temporary_ = name;
     path_ = target;
-    buffer_ = std::make_unique<Buffered>(descriptor);
+    buffer_ = std::make_unique<Buffered>(descriptor, 0);
 }
 
 OutputTarget::~OutputTarget() {
@@ -281,7 +300,7 @@ void OutputTarget::Commit() {
     int error = buffer_->Error();
     if (buffer_->Descriptor() != STDOUT_FILENO) {
         const int descriptor = buffer_->Descriptor();
-        buffer_ = std::make_unique<Buffered>(STDOUT_FILENO);  // nothing more goes to the closed file
+        buffer_ = std::make_unique<Buffered>(STDOUT_FILENO, 0);  // nothing more goes to the closed file
         if (::close(descriptor) != 0 && error == 0) {
             error = errno;
         }

@@ -8,6 +8,12 @@
 
 namespace PlurexTool {
 
+// Opens /dev/null on each of descriptors 0 to 2 that is closed, before any file is opened: a file
+// opened later would otherwise take its number and be read or written as standard input or output.
+// Reads of a standard input, and writes to a standard output, that were closed still fail with "Bad
+// file descriptor".
+void KeepStandardDescriptors();
+
 // A file or standard input, read only as far as a verb needs. Reads go straight to the descriptor, so
 // that a failed read (a directory, a closed standard input) is an error rather than an early end of
 // the input. Every failure throws a Failure naming the input.
@@ -38,7 +44,7 @@ public:
     bool ReadLine(std::string& line, std::size_t limit, const std::string& verb);
 
 private:
-    [[noreturn]] void ReadFailed(int error) const;
+    [[noreturn]] void ReadFailed(int error);
 
     [[noreturn]] void TooLong(std::size_t limit, const std::string& verb) const;
 

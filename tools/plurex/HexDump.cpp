@@ -77,10 +77,21 @@ std::string ParseHexDump(const std::string& text) {
             if (c == ' ' || c == '\t' || c == ',') {
                 continue;
             }
-            // "0x" before a byte's digits: the 0 is not a digit of the dump.
-            if (c == '0' && i + 1 < to && (line[i + 1] == 'x' || line[i + 1] == 'X') &&
+            // "0x" and one or two digits: one byte, as a C array writes it ("0x7" too).
+            if (c == '0' && i + 1 < to && (line[i + 1] == 'x' || line[i + 1] == 'X') && high < 0 &&
                 (i == from || line[i - 1] == ' ' || line[i - 1] == '\t' || line[i - 1] == ',')) {
-                ++i;
+                std::size_t last = i + 2;  // one past the byte's digits
+                int value = 0;
+                while (last < to && last < i + 4 && DigitValue(line[last]) >= 0) {
+                    value = value * 16 + DigitValue(line[last++]);
+                }
+                if (last == i + 2 || (last < to && DigitValue(line[last]) >= 0)) {
+                    throw Failure("0x takes one or two hex digits",
+                                  "line " + std::to_string(lineNumber) + ", column " + std::to_string(i + 1));
+                }
+                bytes += static_cast<char>(value);
+                digits += 2;
+                i = last - 1;
                 continue;
             }
             const int value = DigitValue(c);

@@ -7,7 +7,8 @@ namespace PlurexTool {
 
 // The bytes a hex dump shows, in any of the forms engineers paste from a capture:
 // - plain digits, as xxd -p writes them ("0007202020..."), over any number of lines;
-// - bytes apart, with spaces, tabs or commas between them ("00 07 20", "0x00, 0x07,");
+// - bytes apart, with spaces, tabs or commas between them ("00 07 20"), or each as 0x and one or two
+//   digits ("0x00, 0x7,");
 // - xxd's default layout ("00000000: 0007 2020 ...  ..  ascii"): the offset before the colon and the
 //   text column after the two spaces are left out.
 // Throws a Failure with its line and column ("line 3, column 7") for a character that is not a hex

@@ -17,6 +17,7 @@ struct Options {
     std::string output;             // -o FILE; empty: standard output
     bool outputIsTerminal = false;  // standard output is a terminal that no -o chose: no place for bytes
     std::function<int()> action;    // the verb's work; returns the exit status
+    int errorStatus = 1;            // the exit status of a failure (clip diff: 2, as cmp and diff)
 };
 
 // A failure of the tool's own or the library's, with where it happened: printed as "plurex: CONTEXT:

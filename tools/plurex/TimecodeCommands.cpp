@@ -1,5 +1,6 @@
 // plurex timecode check | decode: timecodes as the library builds them from their fields, and splits
 // them back from a count or from the timecode word of a clip record.
+#include "ClipJson.h"
 #include "Commands.h"
 #include "Output.h"
 
@@ -20,7 +21,6 @@ using Korv::Plurex::Data::Clips::Serializer;
 using Korv::TimePoints::Rate;
 using Korv::TimePoints::TimeCode;
 using Korv::TimePoints::TimeCodeBuilder;
-using Korv::TimePoints::TimeCodeFields;
 
 // The whole of `text` as a number of type Number (optional minus sign), in `base`.
 template <class Number>
@@ -138,7 +138,7 @@ void AddCheck(CLI::App& timecode, Options& options) {
         }
         Print(options,
               nlohmann::ordered_json{
-                  {"valid", true}, {"totalSample", totalSample}, {"rate", RateText(rate)}, {"drop", drop}},
+                  {"valid", true}, {"count", totalSample}, {"rate", RateText(rate)}, {"drop", drop}},
               "valid\ntotal sample " + std::to_string(totalSample));
         return 0;
     });
@@ -191,20 +191,14 @@ void AddDecode(CLI::App& timecode, Options& options) {
             timeCode = Serializer::FromTimecodeWord(bits);
         }
         // The builder says why a count has no date; ToString would print it without one.
-        const TimeCodeFields fields = TimeCodeBuilder::FromTimeCode(timeCode).GetFields();
+        TimeCodeBuilder::FromTimeCode(timeCode);
         const std::string text = timeCode.ToString();
-        Print(options,
-              nlohmann::ordered_json{{"text", text},
-                                     {"count", timeCode.GetTotalSample()},
-                                     {"rate", RateText(timeCode.GetRate())},
-                                     {"drop", timeCode.IsDropFrame()},
-                                     {"year", fields.year},
-                                     {"month", fields.month},
-                                     {"day", fields.day},
-                                     {"hour", fields.hour},
-                                     {"minute", fields.minute},
-                                     {"second", fields.second},
-                                     {"frame", fields.sample}},
+        nlohmann::ordered_json json{{"rate", RateText(timeCode.GetRate())},
+                                    {"drop", timeCode.IsDropFrame()},
+                                    {"count", timeCode.GetTotalSample()}};
+        json.update(TimecodeDateJson(timeCode));
+        json["text"] = text;
+        Print(options, json,
               text);
     });
 }

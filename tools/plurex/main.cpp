@@ -138,10 +138,12 @@ int Run(bool json, PlurexTool::Options& options, std::streambuf* standard) {
         }
     } catch (const Failure& failure) {
         std::cout.rdbuf(standard);
-        status = Report(json, failure);
+        // A failure's own status (a usage error's 2) stands; a plain one takes the verb's.
+        const int own = failure.Status() == 1 ? options.errorStatus : failure.Status();
+        status = Report(json, Failure(failure.what(), failure.Context(), own));
     } catch (const std::exception& error) {  // the library's own message
         std::cout.rdbuf(standard);
-        status = Report(json, Failure(error.what()));
+        status = Report(json, Failure(error.what(), std::string(), options.errorStatus));
     }
     std::cout.rdbuf(standard);
     return status;
@@ -150,6 +152,7 @@ int Run(bool json, PlurexTool::Options& options, std::streambuf* standard) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    PlurexTool::KeepStandardDescriptors();
     const bool json = WantsJson(argc, argv);
     // Standard output is written through a buffer that keeps the reason of a failed write.
     PlurexTool::OutputTarget standardOutput("");
@@ -206,7 +209,7 @@ int main(int argc, char** argv) {
     try {
         standardOutput.Commit();
     } catch (const Failure& failure) {
-        status = Report(json, failure);
+        status = Report(json, Failure(failure.what(), failure.Context(), options.errorStatus));
     }
     std::cout.rdbuf(original);
     return status;
