@@ -1,6 +1,8 @@
 // Transcode between any two charsets (the first two bytes pick them): the result is what the
 // decoder and encoder give one virtual call at a time, and well-formed UTF-8 comes back unchanged
-// through UTF-16 and UTF-32. TranscodeStrict gives the same where it succeeds; where it stops, it
+// through UTF-16 and UTF-32. After ASCII padding that ends a little before the end of a block or of
+// one of the chunks the conversion works through (the rest of the same two bytes pick which), the
+// input converts to the same bytes: where the chunks fall changes nothing. TranscodeStrict gives the same where it succeeds; where it stops, it
 // has written the lenient conversion of the bytes before the failing character, and the rest stops
 // again at its own start for the same reason.
 #include "PlurexData/unicode/Charset.h"
@@ -10,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
@@ -37,6 +40,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const std::string output = Transcode(input, from, to);
     Check(output == PlurexTest::ReferenceTranscode(input, from, to));
+
+    // The conversion stages at most 16 KiB of output at a time: these are the input sizes of its
+    // chunks for the pairs' widths (and 64, a block). Half the inputs are tried after padding.
+    const std::size_t boundaries[] = {64, 4096, 5440, 8192, 10880, 16384, 32768, 65536};
+    const std::size_t choice = data[0] / charsets.size() % (2 * std::size(boundaries));
+    if (choice < std::size(boundaries)) {
+        const std::size_t padding = boundaries[choice] - data[1] / charsets.size() * 4 % 64;
+        // Whole units of `from` (padding is a multiple of 4), whatever its width.
+        const std::string pad = Transcode(std::string(padding, 'a'), Charset::Ascii, from).substr(0, padding);
+        Check(Transcode(pad + input, from, to) == Transcode(pad, from, to) + output);
+    }
+
     std::string reused = "left over";
     Transcode(input, from, to, reused);
     Check(reused == output);

@@ -1,13 +1,9 @@
 #include "PlurexData/unicode/Transcode.h"
 
 #include "PlurexData/unicode/Decode.h"
-#include "PlurexData/unicode/DecoderASCII.h"
 #include "PlurexData/unicode/DecoderCodePage28591.h"
 #include "PlurexData/unicode/DecoderCodePage28592.h"
 #include "PlurexData/unicode/DecoderCodePage437.h"
-#include "PlurexData/unicode/DecoderUTF16.h"
-#include "PlurexData/unicode/DecoderUTF32.h"
-#include "PlurexData/unicode/DecoderUTF8.h"
 #include "PlurexData/unicode/EncoderASCII.h"
 #include "PlurexData/unicode/EncoderCodePage28591.h"
 #include "PlurexData/unicode/EncoderCodePage28592.h"
@@ -16,8 +12,10 @@
 #include "PlurexData/unicode/EncoderUTF32.h"
 #include "PlurexData/unicode/EncoderUTF8.h"
 #include "PlurexData/unicode/GetCode.h"
+#include "PlurexData/unicode/detail/UnitBlocks.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -33,9 +31,11 @@ namespace Korv::Plurex::Unicode {
 namespace {
 
 constexpr CodePoint ReplacementCharacter = 0xFFFD;
-// Input is converted in chunks through a buffer on the stack: one input byte completes at most one
-// code point, and no encoder writes more than 4 bytes for one.
-constexpr std::size_t ChunkSize = 4096;
+// Output is staged in a buffer on the stack and appended to the string a chunk at a time. The
+// slack covers what a block or a character may write past the bound of the chunk.
+constexpr std::size_t StagingSize = 16384;
+constexpr std::size_t StagingSlack = 256;
+// No encoder writes more than 4 bytes for a code point.
 constexpr std::size_t MaxBytesPerCodePoint = 4;
 
 [[noreturn]] void ThrowUnknown(Charset charset) {
@@ -58,13 +58,6 @@ bool Overlaps(std::string_view input, const std::string& output) {
            before(input.data(), output.data() + output.size());
 }
 
-// The decoders for which every byte below 0x80 completes at once as the code point of the same value,
-// whatever came before it (a UTF-8 sequence in progress is abandoned, as a new lead byte abandons
-// it). After such a byte, the decoder behaves towards the next bytes exactly as an empty one.
-template <class TDecoder>
-constexpr bool AsciiCompletesAlone =
-    !std::is_same_v<TDecoder, DecoderUTF16> && !std::is_same_v<TDecoder, DecoderUTF32>;
-
 // Writes one code point as Transcode documents it; returns the end of what was written.
 template <class TEncoder>
 unsigned char* Put(const TEncoder& encoder, CodePoint codePoint, unsigned char* out) noexcept {
@@ -83,11 +76,193 @@ unsigned char* Put(const TEncoder& encoder, CodePoint codePoint, unsigned char* 
     return out + size;
 }
 
-std::uint64_t Load8(const unsigned char* bytes) noexcept {
-    std::uint64_t word;
-    std::memcpy(&word, bytes, sizeof word);
-    return word;
+// The targets: how a code point is written, and below which code point it is written as one unit
+// of its own value (the blocks copy, widen or narrow those).
+
+template <class TEncoder, bool BigEndian>
+TEncoder Construct() noexcept {
+    if constexpr (std::is_constructible_v<TEncoder, bool>) {
+        return TEncoder(BigEndian);
+    } else {
+        return TEncoder();
+    }
 }
+
+template <class TEncoder, std::size_t Width, bool BigEndian, std::uint64_t IdentityBelow>
+struct EncoderTarget {
+    using Units = detail::Units<Width, BigEndian>;
+    static constexpr std::uint64_t identityBelow = IdentityBelow;
+
+    unsigned char* Put(CodePoint codePoint, unsigned char* out) const noexcept {
+        return Unicode::Put(encoder, codePoint, out);
+    }
+
+    TEncoder encoder = Construct<TEncoder, BigEndian>();
+};
+
+// Code page 437's encoder finds a byte through a multi-way branch; this target looks it up in a
+// table made from that encoder, for every code point up to the highest the code page has.
+class CodePage437Target {
+public:
+    using Units = detail::Units<1, false>;
+    static constexpr std::uint64_t identityBelow = 0x80;
+
+    unsigned char* Put(CodePoint codePoint, unsigned char* out) const noexcept {
+        const auto index = static_cast<std::uint32_t>(codePoint);
+        *out = index < TableSize ? bytes_[index] : EncoderCodePage437().GetByte(codePoint);
+        return out + 1;
+    }
+
+private:
+    static constexpr std::uint32_t TableSize = 0x2600;
+
+    static const unsigned char* Table() {
+        static const auto table = [] {
+            std::array<unsigned char, TableSize> bytes{};
+            for (std::uint32_t codePoint = 0; codePoint < TableSize; ++codePoint) {
+                bytes[codePoint] = EncoderCodePage437().GetByte(static_cast<CodePoint>(codePoint));
+            }
+            return bytes;
+        }();
+        return table.data();
+    }
+
+    const unsigned char* bytes_ = Table();
+};
+
+using AsciiTarget = EncoderTarget<EncoderASCII, 1, false, 0x80>;
+using CodePage28591Target = EncoderTarget<EncoderCodePage28591, 1, false, 0x100>;
+using CodePage28592Target = EncoderTarget<EncoderCodePage28592, 1, false, 0xA1>;
+
+// UTF-8 and UTF-16 write the code points of most text straight away, and leave the rest (and every
+// quirk) to their encoders.
+struct Utf8Target : EncoderTarget<EncoderUTF8, 1, false, 0x80> {
+    unsigned char* Put(CodePoint codePoint, unsigned char* out) const noexcept {
+        const auto code = static_cast<std::uint32_t>(codePoint);
+        if (code < 0x80) {
+            *out = static_cast<unsigned char>(code);
+            return out + 1;
+        }
+        if (code < 0x800) {
+            out[0] = static_cast<unsigned char>(0xC0 | code >> 6);
+            out[1] = static_cast<unsigned char>(0x80 | (code & 0x3F));
+            return out + 2;
+        }
+        return EncoderTarget::Put(codePoint, out);
+    }
+};
+
+template <bool BigEndian>
+struct Utf16Target : EncoderTarget<EncoderUTF16, 2, BigEndian, 0xD800> {
+    using Base = EncoderTarget<EncoderUTF16, 2, BigEndian, 0xD800>;
+    unsigned char* Put(CodePoint codePoint, unsigned char* out) const noexcept {
+        const auto code = static_cast<std::uint32_t>(codePoint);
+        if (code < 0xD800) {
+            Base::Units::Store(code, out);
+            return out + 2;
+        }
+        return Base::Put(codePoint, out);
+    }
+};
+template <bool BigEndian>
+using Utf32Target = EncoderTarget<EncoderUTF32, 4, BigEndian, detail::NoLimit>;
+
+// The most bytes a target writes per unit of a source, whatever the bytes: what the staging buffer
+// is sized by. A code point takes at least one unit; UTF-8 input never grows in UTF-8 (a sequence
+// of n bytes makes a code point of at most n bytes, or the 3 of U+FFFD), nor in UTF-16 beyond 2 per
+// byte.
+template <class TSource, class TTarget>
+constexpr std::size_t MaxBytesPerUnit() noexcept {
+    constexpr std::size_t source = TSource::Units::width;
+    if constexpr (TTarget::Units::width == 4) {
+        return 4;
+    } else if constexpr (TTarget::Units::width == 2) {
+        return source == 4 ? 4 : 2;
+    } else if constexpr (!std::is_same_v<TTarget, Utf8Target>) {
+        return 1;
+    } else if constexpr (source == 1) {
+        return TSource::isUtf8 ? 1 : 3;
+    } else {
+        return source == 2 ? 3 : 4;
+    }
+}
+
+// The sources: how one code point is read at a position, statelessly (the decoders' state never
+// outlives a character that way), and below which unit value a unit is the code point of its value.
+
+// What a single-byte source byte becomes in a target: its bytes, and how many.
+struct ByteMap {
+    unsigned char bytes[256][MaxBytesPerCodePoint];
+    unsigned char length[256];
+};
+
+template <class TDecode, std::uint64_t IdentityBelow>
+struct SingleByteSource {
+    using Units = detail::Units<1, false>;
+    static constexpr std::uint64_t identityBelow = IdentityBelow;
+    static constexpr bool isUtf8 = false;
+
+    // Every byte is a character, written from a table made for the pair, without a branch.
+    template <class TTarget>
+    class Reader {
+    public:
+        // Whether every byte is written as one unit of the target, so that a block's other units can be
+        // put in place after it (UTF-8 is the one target that writes the code points of these
+        // charsets in more than one length).
+        static constexpr bool fixesBlocks = !std::is_same_v<TTarget, Utf8Target>;
+
+        explicit Reader(const TTarget& target) noexcept : map_(Map(target)) {}
+
+        void Step(const unsigned char*& in, const unsigned char*, unsigned char*& out) const noexcept {
+            std::memcpy(out, map_.bytes[*in], MaxBytesPerCodePoint);
+            out += map_.length[*in++];
+        }
+
+        // Writes the bytes of the units `above` names in the block at `in` converted to `out`. The
+        // first is written whether there is one or not (the last unit again, which is the same
+        // bytes), so that text with a character to fix now and then takes no branch it mispredicts.
+        void Fix(const unsigned char* in, std::uint64_t above, unsigned char* out) const noexcept {
+            constexpr std::size_t width = TTarget::Units::width;
+            constexpr std::uint64_t last = std::uint64_t{1} << (detail::BlockBytes - 1);
+            auto unit = static_cast<std::size_t>(__builtin_ctzll(above | last));
+            std::memcpy(out + unit * width, map_.bytes[in[unit]], width);
+            for (above &= above - 1; above != 0; above &= above - 1) {
+                unit = static_cast<std::size_t>(__builtin_ctzll(above));
+                std::memcpy(out + unit * width, map_.bytes[in[unit]], width);
+            }
+        }
+
+    private:
+        static const ByteMap& Map(const TTarget& target) noexcept {
+            static const ByteMap map = [&] {
+                ByteMap bytes{};
+                for (unsigned int byte = 0; byte < 256; ++byte) {
+                    const auto value = static_cast<unsigned char>(byte);
+                    bytes.length[byte] = static_cast<unsigned char>(target.Put(TDecode()(value), bytes.bytes[byte]) -
+                                                                    bytes.bytes[byte]);
+                }
+                return bytes;
+            }();
+            return map;
+        }
+
+        const ByteMap& map_;
+    };
+};
+
+struct AsciiBytes {
+    CodePoint operator()(unsigned char byte) const noexcept { return byte; }
+};
+
+template <class TDecoder>
+struct CodePageBytes {
+    CodePoint operator()(unsigned char byte) const noexcept { return TDecoder().GetCodePoint(byte); }
+};
+
+using AsciiSource = SingleByteSource<AsciiBytes, 0x100>;
+using CodePage437Source = SingleByteSource<CodePageBytes<DecoderCodePage437>, 0x80>;
+using CodePage28591Source = SingleByteSource<CodePageBytes<DecoderCodePage28591>, 0x100>;
+using CodePage28592Source = SingleByteSource<CodePageBytes<DecoderCodePage28592>, 0xA1>;
 
 // The length a UTF-8 lead byte of two to four bytes announces; 0 for any other byte.
 constexpr std::size_t SequenceLength(unsigned char lead) noexcept {
@@ -112,88 +287,208 @@ bool AreContinuations(const unsigned char* bytes, std::size_t count) noexcept {
     return true;
 }
 
-// Both classes are final, so every call below is direct, and flatten has the compiler inline all of
-// them (left to itself it calls UTF-8's Add and Put out of line, once per character). The coders are
-// copied into locals whose address never leaves this function: the compiler then knows that the
-// bytes written through `out` cannot change them.
-template <class TDecoder, class TEncoder>
-[[gnu::flatten]] void Convert(std::string_view input, const TDecoder& initialDecoder,
-                              const TEncoder& initialEncoder, std::string& output) {
-    TDecoder decoder = initialDecoder;
-    const TEncoder encoder = initialEncoder;  // NOLINT(performance-unnecessary-copy-initialization)
-    unsigned char staging[ChunkSize * MaxBytesPerCodePoint];
+// The sources whose characters are read one at a time.
+template <class TSource>
+struct CodePointSource {
+    template <class TTarget>
+    class Reader {
+    public:
+        static constexpr bool fixesBlocks = false;
+
+        explicit Reader(const TTarget& target) noexcept : target_(target) {}
+
+        // Writes the character at `in`, which may end anywhere up to `end`, and moves past it.
+        void Step(const unsigned char*& in, const unsigned char* end, unsigned char*& out) const noexcept {
+            TSource::Step(in, end, out, target_);
+        }
+
+        void Fix(const unsigned char*, std::uint64_t, unsigned char*) const noexcept {}
+
+    private:
+        const TTarget& target_;
+    };
+};
+
+// UTF-8 as DecoderUTF8 reads it, seen from the start of each character: a byte below 0x80 is one; a
+// lead byte followed by all the continuation bytes it announces is one; any other byte completes
+// nothing, and the continuation bytes after it are then dropped one by one as strays, which is
+// where the decoder's abandoned sequences (cut short, five and six bytes, 0xFE, 0xFF) leave them.
+struct Utf8Source : CodePointSource<Utf8Source> {
+    using Units = detail::Units<1, false>;
+    static constexpr std::uint64_t identityBelow = 0x80;
+    static constexpr bool isUtf8 = true;
+
+    template <class TTarget>
+    static void Step(const unsigned char*& in, const unsigned char* end, unsigned char*& out,
+                     const TTarget& target) noexcept {
+        const unsigned char lead = *in;
+        if (lead < 0x80) {
+            out = target.Put(lead, out);
+            ++in;
+            return;
+        }
+        if (lead >= 0xC0 && lead < 0xE0 && end - in >= 2 && (in[1] & 0xC0) == 0x80) {
+            out = target.Put((lead & 0x1F) << 6 | (in[1] & 0x3F), out);
+            in += 2;
+            return;
+        }
+        const std::size_t length = SequenceLength(*in);
+        if (length != 0 && static_cast<std::size_t>(end - in) >= length && AreContinuations(in + 1, length - 1)) {
+            out = target.Put(GetCode(in, static_cast<unsigned char>(length)), out);
+            in += length;
+            return;
+        }
+        ++in;
+    }
+};
+
+template <bool BigEndian>
+struct Utf16Source : CodePointSource<Utf16Source<BigEndian>> {
+    using Units = detail::Units<2, BigEndian>;
+    static constexpr std::uint64_t identityBelow = 0xD800;
+    static constexpr bool isUtf8 = false;
+
+    // A unit, or a high surrogate and the unit after it; nothing for an odd last byte or a high
+    // surrogate at the end.
+    template <class TTarget>
+    static void Step(const unsigned char*& in, const unsigned char* end, unsigned char*& out,
+                     const TTarget& target) noexcept {
+        CodePoint codePoint = 0;
+        const auto left = static_cast<unsigned int>(std::min<std::ptrdiff_t>(end - in, 4));
+        const unsigned int used = Decode(in, left, BigEndian, codePoint);
+        if (used == 0) {
+            in = end;
+            return;
+        }
+        out = target.Put(codePoint, out);
+        in += used;
+    }
+};
+
+template <bool BigEndian>
+struct Utf32Source : CodePointSource<Utf32Source<BigEndian>> {
+    using Units = detail::Units<4, BigEndian>;
+    static constexpr std::uint64_t identityBelow = detail::NoLimit;
+    static constexpr bool isUtf8 = false;
+
+    template <class TTarget>
+    static void Step(const unsigned char*& in, const unsigned char* end, unsigned char*& out,
+                     const TTarget& target) noexcept {
+        if (end - in < 4) {
+            in = end;
+            return;
+        }
+        out = target.Put(static_cast<CodePoint>(Units::Load(in)), out);
+        in += 4;
+    }
+};
+
+// The conversion of one pair. Blocks of 16 units go through ConvertBlock; a unit at or above the
+// limit both sides agree on is then put in place if the source can, else the block is taken up to
+// it and the source reads the character there, and the next block starts after that. Units are
+// whole from the start of the input (chunks are multiples of 4 bytes), so a block never splits one.
+template <class TSource, class TTarget>
+[[gnu::flatten]] void ConvertPair(std::string_view input, std::string& output) {
+    using SourceUnits = typename TSource::Units;
+    using TargetUnits = typename TTarget::Units;
+    using Reader = typename TSource::template Reader<TTarget>;
+    constexpr std::uint64_t limit = std::min(TSource::identityBelow, TTarget::identityBelow);
+    constexpr std::size_t blockBytes = detail::BlockBytes;
+    constexpr std::size_t chunkBytes =
+        StagingSize / MaxBytesPerUnit<TSource, TTarget>() * SourceUnits::width / blockBytes * blockBytes;
+    static_assert(chunkBytes % 4 == 0 && chunkBytes >= blockBytes && StagingSlack >= blockBytes * 4);
+
+    const TTarget target;
+    const Reader reader(target);
+    unsigned char staging[StagingSize + StagingSlack];
     const auto* in = reinterpret_cast<const unsigned char*>(input.data());
     const auto* const end = in + input.size();
-    while (in != end) {
-        const auto* const stop = in + std::min<std::size_t>(ChunkSize, static_cast<std::size_t>(end - in));
+    output.reserve(input.size() / SourceUnits::width * TargetUnits::width);
+    while (in < end) {
+        const auto* const stop = in + std::min<std::size_t>(chunkBytes, static_cast<std::size_t>(end - in));
         unsigned char* out = staging;
-        while (in != stop) {
-            if constexpr (AsciiCompletesAlone<TDecoder>) {
-                // Bytes below 0x80 skip the decoder, which would hand each back unchanged; eight at a
-                // time while they last. Masking tells the encoder's inlined code that they are ASCII.
-                if (*in < 0x80) {
-                    while (stop - in >= 8 && (Load8(in) & 0x8080808080808080u) == 0) {
-                        for (int i = 0; i < 8; ++i) {
-                            out = Put(encoder, in[i] & 0x7F, out);
+        while (stop - in >= static_cast<std::ptrdiff_t>(blockBytes)) {
+            const std::uint64_t above = detail::ConvertBlock<SourceUnits, TargetUnits, limit>(in, out);
+            if constexpr (Reader::fixesBlocks) {
+                if constexpr (limit < (std::uint64_t{1} << (8 * SourceUnits::width))) {
+                    reader.Fix(in, above, out);
+                }
+            } else if (above != 0) {
+                // The character there is read on its own, and then the text goes in blocks of 16
+                // units until one converts whole: text dense with such characters spends little on
+                // blocks that stop early, and mostly-ASCII text soon goes back to full blocks.
+                constexpr std::size_t shortBytes = 16 * SourceUnits::width;
+                if constexpr (std::is_same_v<TSource, Utf8Source> && std::is_same_v<TTarget, Utf8Target>) {
+                    // UTF-8 into UTF-8 copies well-formed text 16 bytes at a time, and reads a
+                    // character only where the bytes need more than a copy.
+                    const std::size_t below = detail::FirstUnit<SourceUnits>(above);
+                    in += below;
+                    out += below;
+                    while (stop - in >= 16) {
+                        const detail::Copied copied = detail::CopyWellFormedUtf8(in, out);
+                        if (copied.bytes == 0) {
+                            reader.Step(in, end, out);
+                            continue;
                         }
-                        in += 8;
+                        in += copied.bytes;
+                        out += copied.bytes;
+                        if (copied.ascii) {
+                            break;
+                        }
                     }
-                    for (; in != stop && *in < 0x80; ++in) {
-                        out = Put(encoder, *in, out);
-                    }
-                    decoder.Reset();
                     continue;
                 }
-            }
-            if constexpr (std::is_same_v<TDecoder, DecoderUTF8>) {
-                // A lead byte followed by all the continuation bytes it announces completes as GetCode
-                // of them whatever came before (a lead byte abandons a sequence in progress), and
-                // leaves the decoder as good as empty.
-                const std::size_t length = SequenceLength(*in);
-                if (length != 0 && static_cast<std::size_t>(stop - in) >= length &&
-                    AreContinuations(in + 1, length - 1)) {
-                    out = Put(encoder, GetCode(in, static_cast<unsigned char>(length)), out);
-                    in += length;
-                    decoder.Reset();
-                    continue;
+                std::uint64_t stopped = above;
+                do {
+                    const std::size_t below = detail::FirstUnit<SourceUnits>(stopped);
+                    in += below * SourceUnits::width;
+                    out += below * TargetUnits::width;
+                    reader.Step(in, end, out);
+                    if (stop - in < static_cast<std::ptrdiff_t>(shortBytes)) {
+                        break;
+                    }
+                    // A block is only worth trying where a run starts.
+                    stopped = SourceUnits::Load(in) < limit
+                                  ? detail::ConvertBlock<SourceUnits, TargetUnits, limit, shortBytes>(in, out)
+                                  : 1;
+                } while (stopped != 0);
+                if (stopped == 0) {
+                    in += shortBytes;
+                    out += 16 * TargetUnits::width;
                 }
-            }
-            if constexpr (std::is_base_of_v<DecoderANSI, TDecoder>) {
-                // DecoderANSI completes every byte as GetCodePoint of it; called directly on the final
-                // class for the same reason as GetByte in Put.
-                out = Put(encoder, decoder.GetCodePoint(*in++), out);
                 continue;
             }
-            decoder.Add(*in++);
-            if (decoder.IsComplete()) {
-                out = Put(encoder, decoder.GetResult(), out);
-            }
+            in += blockBytes;
+            out += blockBytes / SourceUnits::width * TargetUnits::width;
+        }
+        while (in < stop) {
+            reader.Step(in, end, out);
         }
         output.append(reinterpret_cast<const char*>(staging), static_cast<std::size_t>(out - staging));
     }
 }
 
-template <class TDecoder>
-void ConvertFrom(std::string_view input, const TDecoder& decoder, Charset to, std::string& output) {
+template <class TSource>
+void ConvertFrom(std::string_view input, Charset to, std::string& output) {
     switch (to) {
         case Charset::Ascii:
-            return Convert(input, decoder, EncoderASCII(), output);
+            return ConvertPair<TSource, AsciiTarget>(input, output);
         case Charset::CodePage437:
-            return Convert(input, decoder, EncoderCodePage437(), output);
+            return ConvertPair<TSource, CodePage437Target>(input, output);
         case Charset::CodePage28591:
-            return Convert(input, decoder, EncoderCodePage28591(), output);
+            return ConvertPair<TSource, CodePage28591Target>(input, output);
         case Charset::CodePage28592:
-            return Convert(input, decoder, EncoderCodePage28592(), output);
+            return ConvertPair<TSource, CodePage28592Target>(input, output);
         case Charset::Utf8:
-            return Convert(input, decoder, EncoderUTF8(), output);
+            return ConvertPair<TSource, Utf8Target>(input, output);
         case Charset::Utf16LE:
-            return Convert(input, decoder, EncoderUTF16(false), output);
+            return ConvertPair<TSource, Utf16Target<false>>(input, output);
         case Charset::Utf16BE:
-            return Convert(input, decoder, EncoderUTF16(true), output);
+            return ConvertPair<TSource, Utf16Target<true>>(input, output);
         case Charset::Utf32LE:
-            return Convert(input, decoder, EncoderUTF32(false), output);
+            return ConvertPair<TSource, Utf32Target<false>>(input, output);
         case Charset::Utf32BE:
-            return Convert(input, decoder, EncoderUTF32(true), output);
+            return ConvertPair<TSource, Utf32Target<true>>(input, output);
     }
     ThrowUnknown(to);
 }
@@ -211,26 +506,25 @@ void Transcode(std::string_view input, Charset from, Charset to, std::string& ou
         return;
     }
     output.clear();
-    output.reserve(input.size());
     switch (from) {
         case Charset::Ascii:
-            return ConvertFrom(input, DecoderASCII(), to, output);
+            return ConvertFrom<AsciiSource>(input, to, output);
         case Charset::CodePage437:
-            return ConvertFrom(input, DecoderCodePage437(), to, output);
+            return ConvertFrom<CodePage437Source>(input, to, output);
         case Charset::CodePage28591:
-            return ConvertFrom(input, DecoderCodePage28591(), to, output);
+            return ConvertFrom<CodePage28591Source>(input, to, output);
         case Charset::CodePage28592:
-            return ConvertFrom(input, DecoderCodePage28592(), to, output);
+            return ConvertFrom<CodePage28592Source>(input, to, output);
         case Charset::Utf8:
-            return ConvertFrom(input, DecoderUTF8(), to, output);
+            return ConvertFrom<Utf8Source>(input, to, output);
         case Charset::Utf16LE:
-            return ConvertFrom(input, DecoderUTF16(false), to, output);
+            return ConvertFrom<Utf16Source<false>>(input, to, output);
         case Charset::Utf16BE:
-            return ConvertFrom(input, DecoderUTF16(true), to, output);
+            return ConvertFrom<Utf16Source<true>>(input, to, output);
         case Charset::Utf32LE:
-            return ConvertFrom(input, DecoderUTF32(false), to, output);
+            return ConvertFrom<Utf32Source<false>>(input, to, output);
         case Charset::Utf32BE:
-            return ConvertFrom(input, DecoderUTF32(true), to, output);
+            return ConvertFrom<Utf32Source<true>>(input, to, output);
     }
     ThrowUnknown(from);
 }

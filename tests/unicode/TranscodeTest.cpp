@@ -6,12 +6,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <iterator>
 #include <memory>
 #include <random>
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -91,27 +93,62 @@ TEST(Transcode, OutputUntouchedOnUnknownCharsetAndMayBeTheInput) {
     EXPECT_EQ(output, std::string("\0\0\0h\0\0\0\xE9", 8));
 }
 
-// Every pair of charsets on inputs long enough to cross the internal chunks, mixing ASCII runs,
-// well-formed and malformed UTF-8 and random bytes, against the one-call-at-a-time reference.
+// Text in every charset's units, so that each source meets its own runs and their ends: ASCII and
+// Latin-1 letters, letters above 0xFF, characters outside the basic plane, surrogates alone, and in
+// UTF-32 values above 0x10FFFF and negative ones.
+std::vector<std::string> Pieces() {
+    const std::string ascii = "plain ASCII text, long enough for a block of sixty-four bytes or more, ";
+    std::vector<std::string> pieces = {ascii, "\xC3\xA9", "\xE2\x94\x80", "\xF0\x9F\x98\x80", "\xED\xA0\x80", "\xC3",
+                                       "\x80", "\xF8\x88\x80\x80\x80", "\xFF", std::string("\0\xD8\x00\xDC", 4)};
+    const std::u32string wide[] = {U"Gr\u00F6\u00DFe \u00FCber", U"\u0141\u00F3d\u017A \u017Ar\u00F3d\u0142o",
+                                   U"\u6771\u4EAC", U"\U0001F600", std::u32string(1, 0xD800), std::u32string(1, 0xDC00),
+                                   std::u32string(1, 0x110000), std::u32string(1, 0xFFFFFFFF)};
+    for (const std::u32string& text : wide) {
+        for (const bool bigEndian : {false, true}) {
+            std::string utf16;
+            std::string utf32;
+            for (const char32_t c : text) {
+                const auto unit = static_cast<std::uint32_t>(c);
+                for (int i = 0; i < 4; ++i) {
+                    utf32 += static_cast<char>(unit >> (8 * (bigEndian ? 3 - i : i)));
+                }
+                const std::uint32_t units[2] = {unit < 0x10000 ? unit : 0xD800 + ((unit - 0x10000) >> 10),
+                                                unit < 0x10000 ? 0 : 0xDC00 + (unit & 0x3FF)};
+                for (int u = 0; u < (unit < 0x10000 ? 1 : 2); ++u) {
+                    utf16 += static_cast<char>(units[u] >> (bigEndian ? 8 : 0));
+                    utf16 += static_cast<char>(units[u] >> (bigEndian ? 0 : 8));
+                }
+            }
+            pieces.push_back(utf16);
+            pieces.push_back(utf32);
+        }
+    }
+    for (const bool bigEndian : {false, true}) {
+        std::string utf16;
+        std::string utf32;
+        for (const char c : ascii) {
+            utf16 += bigEndian ? std::string{'\0', c} : std::string{c, '\0'};
+            utf32 += bigEndian ? std::string{'\0', '\0', '\0', c} : std::string{c, '\0', '\0', '\0'};
+        }
+        pieces.push_back(utf16);
+        pieces.push_back(utf32);
+    }
+    return pieces;
+}
+
+// Every pair of charsets on inputs long enough to cross the internal chunks, mixing runs of every
+// kind, characters that end them, malformed sequences and random bytes, against the
+// one-call-at-a-time reference. A random byte now and then shifts the units out of step.
 TEST(Transcode, EveryPairMatchesTheCodersOneByteAtATime) {
     std::mt19937 random(20240607);
-    const std::string pieces[] = {"plain ASCII text, long enough for the eight-byte path ",
-                                  "\xC3\xA9",
-                                  "\xE2\x94\x80",
-                                  "\xF0\x9F\x98\x80",
-                                  "\xED\xA0\x80",
-                                  "\xC3",
-                                  "\x80",
-                                  "\xF8\x88\x80\x80\x80",
-                                  "\xFF",
-                                  std::string("\0\xD8\x00\xDC", 4)};
+    const std::vector<std::string> pieces = Pieces();
     for (int round = 0; round < 4; ++round) {
         std::string input;
-        while (input.size() < 9000) {
-            if (random() % 4 == 0) {
+        while (input.size() < 40000) {
+            if (random() % 8 == 0) {
                 input += static_cast<char>(random());
             } else {
-                input += pieces[random() % std::size(pieces)];
+                input += pieces[random() % pieces.size()];
             }
         }
         input.resize(input.size() - round);  // tails cut at every offset of a 4-byte unit

@@ -1,0 +1,247 @@
+#pragma once
+
+// Blocks of 16 code units converted at once: the fast path of Transcode for runs of characters that
+// both charsets write as a single unit holding the code point itself (ASCII everywhere, Latin-1 from
+// ISO 8859-1 into UTF-16, the whole basic plane between UTF-16 and UTF-32).
+//
+// With SSE2 (every x86_64 compiler) a block is a few vector instructions; without it (the 32-bit
+// build) the same function is a plain loop, so both give the same bytes and the tests run both.
+
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+namespace Korv::Plurex::Unicode::detail {
+
+/// Code units of `Width` bytes (1, 2 or 4) in one byte order.
+template <std::size_t Width, bool BigEndian>
+struct Units {
+    static constexpr std::size_t width = Width;
+    static constexpr bool bigEndian = BigEndian;
+
+    static std::uint32_t Load(const unsigned char* bytes) noexcept {
+        std::uint32_t value = 0;
+        for (std::size_t i = 0; i < Width; ++i) {
+            value = value << 8 | bytes[BigEndian ? i : Width - 1 - i];
+        }
+        return value;
+    }
+
+    /// Writes the low `Width` bytes of `value`.
+    static void Store(std::uint32_t value, unsigned char* bytes) noexcept {
+        for (std::size_t i = 0; i < Width; ++i) {
+            bytes[BigEndian ? Width - 1 - i : i] = static_cast<unsigned char>(value >> (8 * i));
+        }
+    }
+};
+
+/// A limit above every unit value: every unit passes.
+constexpr std::uint64_t NoLimit = std::uint64_t{1} << 32;
+
+#if defined(__SSE2__)
+namespace sse2 {
+
+inline __m128i Load(const unsigned char* bytes) noexcept {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
+}
+
+inline void Store(__m128i vector, unsigned char* bytes) noexcept {
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(bytes), vector);
+}
+
+inline __m128i Swap16(__m128i vector) noexcept {
+    return _mm_or_si128(_mm_slli_epi16(vector, 8), _mm_srli_epi16(vector, 8));
+}
+
+inline __m128i Swap32(__m128i vector) noexcept {
+    // 0xB1: the two 16-bit halves of each 32-bit lane exchanged.
+    const __m128i halves = _mm_shufflehi_epi16(_mm_shufflelo_epi16(vector, 0xB1), 0xB1);
+    return Swap16(halves);
+}
+
+/// Between the given byte order and the host's (little-endian), either way.
+template <std::size_t Width, bool BigEndian>
+__m128i Reorder(__m128i vector) noexcept {
+    if constexpr (!BigEndian || Width == 1) {
+        return vector;
+    } else if constexpr (Width == 2) {
+        return Swap16(vector);
+    } else {
+        return Swap32(vector);
+    }
+}
+
+/// One bit per byte (movemask) of the lanes whose unit is below `Limit`.
+template <std::size_t Width, std::uint64_t Limit>
+unsigned int BelowMask(__m128i units) noexcept {
+    const __m128i zero = _mm_setzero_si128();
+    if constexpr (Width == 1) {
+        const __m128i excess = _mm_subs_epu8(units, _mm_set1_epi8(static_cast<char>(Limit - 1)));
+        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi8(excess, zero)));
+    } else if constexpr (Width == 2) {
+        const __m128i excess = _mm_subs_epu16(units, _mm_set1_epi16(static_cast<short>(Limit - 1)));
+        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi16(excess, zero)));
+    } else {
+        // No unsigned 32-bit comparison in SSE2: flip the top bits and compare signed.
+        const __m128i bias = _mm_set1_epi32(static_cast<int>(0x80000000u));
+        const __m128i last = _mm_set1_epi32(static_cast<int>((Limit - 1) ^ 0x80000000u));
+        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpgt_epi32(_mm_xor_si128(units, bias), last)) ^
+                                         0xFFFF);
+    }
+}
+
+/// The 16 units of `source` (SourceWidth vectors) in DestinationWidth vectors; exact for every unit
+/// that fits the narrower width.
+template <std::size_t SourceWidth, std::size_t DestinationWidth>
+void Resize(const __m128i* source, __m128i* destination) noexcept {
+    const __m128i zero = _mm_setzero_si128();
+    if constexpr (SourceWidth == DestinationWidth) {
+        for (std::size_t i = 0; i < SourceWidth; ++i) {
+            destination[i] = source[i];
+        }
+    } else if constexpr (SourceWidth == 1 && DestinationWidth == 2) {
+        destination[0] = _mm_unpacklo_epi8(source[0], zero);
+        destination[1] = _mm_unpackhi_epi8(source[0], zero);
+    } else if constexpr (SourceWidth == 1 && DestinationWidth == 4) {
+        const __m128i low = _mm_unpacklo_epi8(source[0], zero);
+        const __m128i high = _mm_unpackhi_epi8(source[0], zero);
+        destination[0] = _mm_unpacklo_epi16(low, zero);
+        destination[1] = _mm_unpackhi_epi16(low, zero);
+        destination[2] = _mm_unpacklo_epi16(high, zero);
+        destination[3] = _mm_unpackhi_epi16(high, zero);
+    } else if constexpr (SourceWidth == 2 && DestinationWidth == 1) {
+        destination[0] = _mm_packus_epi16(source[0], source[1]);
+    } else if constexpr (SourceWidth == 2 && DestinationWidth == 4) {
+        destination[0] = _mm_unpacklo_epi16(source[0], zero);
+        destination[1] = _mm_unpackhi_epi16(source[0], zero);
+        destination[2] = _mm_unpacklo_epi16(source[1], zero);
+        destination[3] = _mm_unpackhi_epi16(source[1], zero);
+    } else if constexpr (SourceWidth == 4 && DestinationWidth == 1) {
+        destination[0] = _mm_packus_epi16(_mm_packs_epi32(source[0], source[1]), _mm_packs_epi32(source[2], source[3]));
+    } else {
+        // 4 to 2: the signed pack saturates, so each lane first becomes its low 16 bits sign-extended.
+        __m128i low[4];
+        for (std::size_t i = 0; i < 4; ++i) {
+            low[i] = _mm_srai_epi32(_mm_slli_epi32(source[i], 16), 16);
+        }
+        destination[0] = _mm_packs_epi32(low[0], low[1]);
+        destination[1] = _mm_packs_epi32(low[2], low[3]);
+    }
+}
+
+}  // namespace sse2
+#endif
+
+/// The bytes of source a block holds: 64, 32 or 16 units.
+constexpr std::size_t BlockBytes = 64;
+
+/// Converts the Bytes / Source::width units (Bytes a multiple of 16 * Source::width, at most 64) at `in` into units of `Destination` at `out`,
+/// exactly for those below `Limit`, and returns a mask of the others: bit k * Source::width set when
+/// unit k is at or above `Limit` (0: the whole block converted). Reads the whole block and writes
+/// all its units, whatever their values: what is written for a unit the mask names is to be
+/// overwritten.
+template <class Source, class Destination, std::uint64_t Limit, std::size_t Bytes = BlockBytes>
+std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept {
+    constexpr std::size_t sourceWidth = Source::width;
+    constexpr std::size_t destinationWidth = Destination::width;
+    constexpr bool checked = Limit < (std::uint64_t{1} << (8 * sourceWidth));
+    static_assert(Bytes % (16 * sourceWidth) == 0 && Bytes <= 64);
+#if defined(__SSE2__)
+    // 16 units at a time: sourceWidth vectors in, destinationWidth vectors out.
+    std::uint64_t below = 0;
+#pragma GCC unroll 4
+    for (std::size_t part = 0; part < Bytes / (16 * sourceWidth); ++part) {
+        __m128i raw[sourceWidth];
+        __m128i units[sourceWidth];
+#pragma GCC unroll 4
+        for (std::size_t i = 0; i < sourceWidth; ++i) {
+            raw[i] = sse2::Load(in + 16 * i);
+            units[i] = sse2::Reorder<sourceWidth, Source::bigEndian>(raw[i]);
+            if constexpr (checked) {
+                below |= std::uint64_t{sse2::BelowMask<sourceWidth, Limit>(units[i])} << (16 * (part * sourceWidth + i));
+            }
+        }
+        if constexpr (sourceWidth == destinationWidth && Source::bigEndian == Destination::bigEndian) {
+            for (std::size_t i = 0; i < sourceWidth; ++i) {
+                sse2::Store(raw[i], out + 16 * i);
+            }
+        } else {
+            __m128i converted[destinationWidth];
+            sse2::Resize<sourceWidth, destinationWidth>(units, converted);
+            for (std::size_t i = 0; i < destinationWidth; ++i) {
+                sse2::Store(sse2::Reorder<destinationWidth, Destination::bigEndian>(converted[i]), out + 16 * i);
+            }
+        }
+        in += 16 * sourceWidth;
+        out += 16 * destinationWidth;
+    }
+    constexpr std::uint64_t all = Bytes == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << Bytes) - 1;
+    return checked ? ~below & all : 0;
+#else
+    std::uint64_t above = 0;
+    for (std::size_t i = 0; i < Bytes / sourceWidth; ++i) {
+        const std::uint32_t unit = Source::Load(in + i * sourceWidth);
+        Destination::Store(unit, out + i * destinationWidth);
+        if constexpr (checked) {
+            if (unit >= Limit) {
+                above |= std::uint64_t{1} << (i * sourceWidth);
+            }
+        }
+    }
+    return above;
+#endif
+}
+
+/// What CopyWellFormedUtf8 copied: how many bytes, and whether all 16 were ASCII.
+struct Copied {
+    std::size_t bytes;
+    bool ascii;
+};
+
+/// For UTF-8 into UTF-8: copies the 16 bytes at `in` to `out`, and counts as copied the sequences
+/// that decoding and encoding again give back unchanged (ASCII, two-byte sequences from 0xC2,
+/// three-byte ones from 0xE1 but 0xED) up to the last that ends inside the 16; nothing when anything
+/// else is there (what was written is then to be overwritten). Without SSE2, never anything.
+inline Copied CopyWellFormedUtf8(const unsigned char* in, unsigned char* out) noexcept {
+#if defined(__SSE2__)
+    const __m128i bytes = sse2::Load(in);
+    sse2::Store(bytes, out);
+    const auto is = [&](int value) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(static_cast<char>(value))); };
+    const auto above = [&](int value) { return _mm_cmpgt_epi8(bytes, _mm_set1_epi8(static_cast<char>(value))); };
+    const auto below = [&](int value) { return _mm_cmplt_epi8(bytes, _mm_set1_epi8(static_cast<char>(value))); };
+    // Signed bytes: ASCII is 0 to 127, 0xC2 to 0xDF is -62 to -33, 0xE1 to 0xEF is -31 to -17.
+    const __m128i ascii = above(-1);
+    const __m128i continuation =
+        _mm_cmpeq_epi8(_mm_and_si128(bytes, _mm_set1_epi8(static_cast<char>(0xC0))), _mm_set1_epi8(static_cast<char>(0x80)));
+    const __m128i lead2 = _mm_and_si128(above(-63), below(-32));
+    const __m128i lead3 = _mm_andnot_si128(is(0xED), _mm_and_si128(above(-32), below(-16)));
+    const __m128i leads = _mm_or_si128(lead2, lead3);
+    const __m128i expected = _mm_or_si128(_mm_slli_si128(leads, 1), _mm_slli_si128(lead3, 2));
+    const __m128i known = _mm_or_si128(_mm_or_si128(ascii, leads), continuation);
+    if (_mm_movemask_epi8(known) != 0xFFFF || _mm_movemask_epi8(_mm_xor_si128(continuation, expected)) != 0) {
+        return {0, false};
+    }
+    if ((_mm_movemask_epi8(lead3) & 0x4000) != 0) {
+        return {14, false};
+    }
+    if ((_mm_movemask_epi8(leads) & 0x8000) != 0) {
+        return {15, false};
+    }
+    return {16, _mm_movemask_epi8(ascii) == 0xFFFF};
+#else
+    static_cast<void>(in);
+    static_cast<void>(out);
+    return {0, false};
+#endif
+}
+
+/// The index of the first unit a non-zero ConvertBlock mask names.
+template <class Source>
+std::size_t FirstUnit(std::uint64_t mask) noexcept {
+    return static_cast<std::size_t>(__builtin_ctzll(mask)) / Source::width;
+}
+
+}  // namespace Korv::Plurex::Unicode::detail
