@@ -148,6 +148,12 @@ struct Utf8Target : EncoderTarget<EncoderUTF8, 1, false, 0x80> {
             out[1] = static_cast<unsigned char>(0x80 | (code & 0x3F));
             return out + 2;
         }
+        if (code < 0x10000 && code - 0xD800 >= 0x800) {
+            out[0] = static_cast<unsigned char>(0xE0 | code >> 12);
+            out[1] = static_cast<unsigned char>(0x80 | (code >> 6 & 0x3F));
+            out[2] = static_cast<unsigned char>(0x80 | (code & 0x3F));
+            return out + 3;
+        }
         return EncoderTarget::Put(codePoint, out);
     }
 };
@@ -164,8 +170,14 @@ struct Utf16Target : EncoderTarget<EncoderUTF16, 2, BigEndian, 0xD800> {
         return Base::Put(codePoint, out);
     }
 };
+// UTF-32 writes every value as it is.
 template <bool BigEndian>
-using Utf32Target = EncoderTarget<EncoderUTF32, 4, BigEndian, detail::NoLimit>;
+struct Utf32Target : EncoderTarget<EncoderUTF32, 4, BigEndian, detail::NoLimit> {
+    unsigned char* Put(CodePoint codePoint, unsigned char* out) const noexcept {
+        detail::Units<4, BigEndian>::Store(static_cast<std::uint32_t>(codePoint), out);
+        return out + 4;
+    }
+};
 
 // The most bytes a target writes per unit of a source, whatever the bytes: what the staging buffer
 // is sized by. A code point takes at least one unit; UTF-8 input never grows in UTF-8 (a sequence
@@ -332,6 +344,11 @@ struct Utf8Source : CodePointSource<Utf8Source> {
             in += 2;
             return;
         }
+        if (lead >= 0xE0 && lead < 0xF0 && end - in >= 3 && (in[1] & 0xC0) == 0x80 && (in[2] & 0xC0) == 0x80) {
+            out = target.Put((lead & 0x0F) << 12 | (in[1] & 0x3F) << 6 | (in[2] & 0x3F), out);
+            in += 3;
+            return;
+        }
         const std::size_t length = SequenceLength(*in);
         if (length != 0 && static_cast<std::size_t>(end - in) >= length && AreContinuations(in + 1, length - 1)) {
             out = target.Put(GetCode(in, static_cast<unsigned char>(length)), out);
@@ -353,6 +370,14 @@ struct Utf16Source : CodePointSource<Utf16Source<BigEndian>> {
     template <class TTarget>
     static void Step(const unsigned char*& in, const unsigned char* end, unsigned char*& out,
                      const TTarget& target) noexcept {
+        if (end - in >= 2) {
+            const std::uint32_t unit = Units::Load(in);
+            if (unit - 0xD800 >= 0x400) {
+                out = target.Put(static_cast<CodePoint>(unit), out);
+                in += 2;
+                return;
+            }
+        }
         CodePoint codePoint = 0;
         const auto left = static_cast<unsigned int>(std::min<std::ptrdiff_t>(end - in, 4));
         const unsigned int used = Decode(in, left, BigEndian, codePoint);
@@ -415,15 +440,19 @@ template <class TSource, class TTarget>
                 }
             } else if (above != 0) {
                 // The character there is read on its own, and then the text goes in blocks of 16
-                // units until one converts whole: text dense with such characters spends little on
-                // blocks that stop early, and mostly-ASCII text soon goes back to full blocks.
+                // units until one converts whole, so that mostly-ASCII text soon goes back to full
+                // blocks. A block is tried only where a run starts, and where one stops within 4
+                // units the text is dense with such characters: the next 16 units are read one at a
+                // time.
                 constexpr std::size_t shortBytes = 16 * SourceUnits::width;
                 if constexpr (std::is_same_v<TSource, Utf8Source> && std::is_same_v<TTarget, Utf8Target>) {
-                    // UTF-8 into UTF-8 copies well-formed text 16 bytes at a time, and reads a
-                    // character only where the bytes need more than a copy.
+                    // UTF-8 into UTF-8 copies well-formed text 16 bytes at a time while it lasts,
+                    // reads a character alone where that stops, and goes back to full blocks after
+                    // 16 ASCII.
                     const std::size_t below = detail::FirstUnit<SourceUnits>(above);
                     in += below;
                     out += below;
+                    reader.Step(in, end, out);
                     while (stop - in >= 16) {
                         const detail::Copied copied = detail::CopyWellFormedUtf8(in, out);
                         if (copied.bytes == 0) {
@@ -447,7 +476,6 @@ template <class TSource, class TTarget>
                     if (stop - in < static_cast<std::ptrdiff_t>(shortBytes)) {
                         break;
                     }
-                    // A block is only worth trying where a run starts.
                     stopped = SourceUnits::Load(in) < limit
                                   ? detail::ConvertBlock<SourceUnits, TargetUnits, limit, shortBytes>(in, out)
                                   : 1;

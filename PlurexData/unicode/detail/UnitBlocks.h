@@ -195,42 +195,70 @@ std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept
 #endif
 }
 
-/// What CopyWellFormedUtf8 copied: how many bytes, and whether all 16 were ASCII.
+/// What CopyWellFormedUtf8 copied: how many bytes (0: nothing), and whether all 16 were ASCII.
 struct Copied {
     std::size_t bytes;
     bool ascii;
 };
 
-/// For UTF-8 into UTF-8: copies the 16 bytes at `in` to `out`, and counts as copied the sequences
-/// that decoding and encoding again give back unchanged (ASCII, two-byte sequences from 0xC2,
-/// three-byte ones from 0xE1 but 0xED) up to the last that ends inside the 16; nothing when anything
-/// else is there (what was written is then to be overwritten). Without SSE2, never anything.
+#if defined(__SSE2__)
+namespace sse2 {
+
+/// The bytes of `bytes` (as signed values) from `low` to `high`, inclusive; `high` below 127.
+inline __m128i Between(__m128i bytes, int low, int high) noexcept {
+    return _mm_and_si128(_mm_cmpgt_epi8(bytes, _mm_set1_epi8(static_cast<char>(low - 1))),
+                         _mm_cmplt_epi8(bytes, _mm_set1_epi8(static_cast<char>(high + 1))));
+}
+
+inline __m128i IsContinuation(__m128i bytes) noexcept {
+    return _mm_cmpeq_epi8(_mm_and_si128(bytes, _mm_set1_epi8(static_cast<char>(0xC0))),
+                          _mm_set1_epi8(static_cast<char>(0x80)));
+}
+
+/// The length of the prefix of 16 bytes made of whole sequences: up to the first byte `wrong` names
+/// (or all 16), less a sequence whose lead byte (`leads`; `leads3` for three-byte ones) is one or two
+/// bytes before that and which therefore ends there or after it.
+inline std::size_t WholePrefix(unsigned int wrong, unsigned int leads, unsigned int leads3) noexcept {
+    const auto first = static_cast<unsigned int>(__builtin_ctz(wrong | 0x10000u));
+    if (first >= 1 && (leads >> (first - 1) & 1) != 0) {
+        return first - 1;
+    }
+    if (first >= 2 && (leads3 >> (first - 2) & 1) != 0) {
+        return first - 2;
+    }
+    return first;
+}
+
+}  // namespace sse2
+#endif
+
+/// For UTF-8 into UTF-8: copies the 16 bytes at `in` to `out`, and counts as copied the whole
+/// sequences at their start that decoding and encoding again give back unchanged (ASCII, two-byte
+/// sequences from 0xC2, three-byte ones from 0xE1 but 0xED). What is written beyond is to be
+/// overwritten. Without SSE2, nothing.
 inline Copied CopyWellFormedUtf8(const unsigned char* in, unsigned char* out) noexcept {
 #if defined(__SSE2__)
     const __m128i bytes = sse2::Load(in);
     sse2::Store(bytes, out);
-    const auto is = [&](int value) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(static_cast<char>(value))); };
-    const auto above = [&](int value) { return _mm_cmpgt_epi8(bytes, _mm_set1_epi8(static_cast<char>(value))); };
-    const auto below = [&](int value) { return _mm_cmplt_epi8(bytes, _mm_set1_epi8(static_cast<char>(value))); };
     // Signed bytes: ASCII is 0 to 127, 0xC2 to 0xDF is -62 to -33, 0xE1 to 0xEF is -31 to -17.
-    const __m128i ascii = above(-1);
-    const __m128i continuation =
-        _mm_cmpeq_epi8(_mm_and_si128(bytes, _mm_set1_epi8(static_cast<char>(0xC0))), _mm_set1_epi8(static_cast<char>(0x80)));
-    const __m128i lead2 = _mm_and_si128(above(-63), below(-32));
-    const __m128i lead3 = _mm_andnot_si128(is(0xED), _mm_and_si128(above(-32), below(-16)));
+    const __m128i ascii = _mm_cmpgt_epi8(bytes, _mm_set1_epi8(-1));
+    const __m128i lead2 = sse2::Between(bytes, -62, -33);
+    const __m128i lead3 = _mm_andnot_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(static_cast<char>(0xED))),
+                                           sse2::Between(bytes, -31, -17));
     const __m128i leads = _mm_or_si128(lead2, lead3);
+    const __m128i continuation = sse2::IsContinuation(bytes);
     const __m128i expected = _mm_or_si128(_mm_slli_si128(leads, 1), _mm_slli_si128(lead3, 2));
     const __m128i known = _mm_or_si128(_mm_or_si128(ascii, leads), continuation);
-    if (_mm_movemask_epi8(known) != 0xFFFF || _mm_movemask_epi8(_mm_xor_si128(continuation, expected)) != 0) {
-        return {0, false};
-    }
-    if ((_mm_movemask_epi8(lead3) & 0x4000) != 0) {
-        return {14, false};
-    }
-    if ((_mm_movemask_epi8(leads) & 0x8000) != 0) {
-        return {15, false};
-    }
-    return {16, _mm_movemask_epi8(ascii) == 0xFFFF};
+    const auto wrong = static_cast<unsigned int>(_mm_movemask_epi8(known) ^ 0xFFFF) |
+                       static_cast<unsigned int>(_mm_movemask_epi8(_mm_xor_si128(continuation, expected)));
+    const auto leadBits = static_cast<unsigned int>(_mm_movemask_epi8(leads));
+    const auto lead3Bits = static_cast<unsigned int>(_mm_movemask_epi8(lead3));
+    // The common case as a branch of its own: predicted, it lets the next block start before this
+    // one's length is known.
+    const std::size_t whole = wrong == 0 && (leadBits & 0x8000) == 0 && (lead3Bits & 0x4000) == 0
+                                  ? 16
+                                  : sse2::WholePrefix(wrong, leadBits, lead3Bits);
+    return {whole, _mm_movemask_epi8(ascii) == 0xFFFF};
 #else
     static_cast<void>(in);
     static_cast<void>(out);
