@@ -418,6 +418,8 @@ template <class TSource, class TTarget>
     using TargetUnits = typename TTarget::Units;
     using Reader = typename TSource::template Reader<TTarget>;
     constexpr std::uint64_t limit = std::min(TSource::identityBelow, TTarget::identityBelow);
+    // Whether a unit can be at or above the limit at all.
+    constexpr bool checked = limit < (std::uint64_t{1} << (8 * SourceUnits::width));
     constexpr std::size_t blockBytes = detail::BlockBytes;
     constexpr std::size_t chunkBytes =
         StagingSize / MaxBytesPerUnit<TSource, TTarget>() * SourceUnits::width / blockBytes * blockBytes;
@@ -434,16 +436,14 @@ template <class TSource, class TTarget>
         unsigned char* out = staging;
         while (stop - in >= static_cast<std::ptrdiff_t>(blockBytes)) {
             const std::uint64_t above = detail::ConvertBlock<SourceUnits, TargetUnits, limit>(in, out);
-            if constexpr (Reader::fixesBlocks) {
-                if constexpr (limit < (std::uint64_t{1} << (8 * SourceUnits::width))) {
-                    reader.Fix(in, above, out);
-                }
+            if constexpr (!checked) {
+                static_cast<void>(above);  // always 0
+            } else if constexpr (Reader::fixesBlocks) {
+                reader.Fix(in, above, out);
             } else if (above != 0) {
-                // The character there is read on its own, and then the text goes in blocks of 16
-                // units until one converts whole, so that mostly-ASCII text soon goes back to full
-                // blocks. A block is tried only where a run starts, and where one stops within 4
-                // units the text is dense with such characters: the next 16 units are read one at a
-                // time.
+                // The character there is read on its own; then a block of 16 units is tried, and
+                // where it does not convert whole, its run is taken unit by unit and the next
+                // character read, until one does: mostly-ASCII text soon goes back to full blocks.
                 constexpr std::size_t shortBytes = 16 * SourceUnits::width;
                 if constexpr (std::is_same_v<TSource, Utf8Source> && std::is_same_v<TTarget, Utf8Target>) {
                     // UTF-8 into UTF-8 copies well-formed text 16 bytes at a time while it lasts,
@@ -467,22 +467,27 @@ template <class TSource, class TTarget>
                     }
                     continue;
                 }
-                std::uint64_t stopped = above;
-                do {
-                    const std::size_t below = detail::FirstUnit<SourceUnits>(stopped);
-                    in += below * SourceUnits::width;
-                    out += below * TargetUnits::width;
+                const std::size_t below = detail::FirstUnit<SourceUnits>(above);
+                in += below * SourceUnits::width;
+                out += below * TargetUnits::width;
+                while (true) {
                     reader.Step(in, end, out);
                     if (stop - in < static_cast<std::ptrdiff_t>(shortBytes)) {
                         break;
                     }
-                    stopped = SourceUnits::Load(in) < limit
-                                  ? detail::ConvertBlock<SourceUnits, TargetUnits, limit, shortBytes>(in, out)
-                                  : 1;
-                } while (stopped != 0);
-                if (stopped == 0) {
-                    in += shortBytes;
-                    out += 16 * TargetUnits::width;
+                    if (detail::ConvertBlock<SourceUnits, TargetUnits, limit, shortBytes>(in, out) == 0) {
+                        in += shortBytes;
+                        out += 16 * TargetUnits::width;
+                        break;
+                    }
+                    // The run before the next such character, unit by unit: predicted branches let
+                    // the next character start before this run's length is known. The block just
+                    // converted holds such a character, so the run ends inside it.
+                    for (std::uint32_t unit = SourceUnits::Load(in); unit < limit; unit = SourceUnits::Load(in)) {
+                        TargetUnits::Store(unit, out);
+                        in += SourceUnits::width;
+                        out += TargetUnits::width;
+                    }
                 }
                 continue;
             }
