@@ -170,6 +170,7 @@ struct Utf16Target : EncoderTarget<EncoderUTF16, 2, BigEndian, 0xD800> {
         return Base::Put(codePoint, out);
     }
 };
+
 // UTF-32 writes every value as it is.
 template <bool BigEndian>
 struct Utf32Target : EncoderTarget<EncoderUTF32, 4, BigEndian, detail::NoLimit> {
@@ -408,10 +409,11 @@ struct Utf32Source : CodePointSource<Utf32Source<BigEndian>> {
     }
 };
 
-// The conversion of one pair. Blocks of 16 units go through ConvertBlock; a unit at or above the
-// limit both sides agree on is then put in place if the source can, else the block is taken up to
-// it and the source reads the character there, and the next block starts after that. Units are
-// whole from the start of the input (chunks are multiples of 4 bytes), so a block never splits one.
+// The conversion of one pair. Blocks of 64 bytes go through ConvertBlock; the units at or above the
+// limit both sides agree on are then put in place when the source can (single-byte charsets into
+// fixed widths), or else the block is taken up to the first of them and the source reads the
+// character there. Units are whole from the start of the input (chunks are multiples of 64 bytes),
+// so a block never splits one. Output is staged a chunk at a time and appended.
 template <class TSource, class TTarget>
 [[gnu::flatten]] void ConvertPair(std::string_view input, std::string& output) {
     using SourceUnits = typename TSource::Units;
