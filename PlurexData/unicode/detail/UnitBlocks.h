@@ -9,6 +9,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -23,17 +25,38 @@ struct Units {
     static constexpr bool bigEndian = BigEndian;
 
     static std::uint32_t Load(const unsigned char* bytes) noexcept {
-        std::uint32_t value = 0;
-        for (std::size_t i = 0; i < Width; ++i) {
-            value = value << 8 | bytes[BigEndian ? i : Width - 1 - i];
+        if constexpr (Width == 1) {
+            return bytes[0];
+        } else {
+            // One load, and a byte swap where the host's order differs: a loop over the bytes is not
+            // always merged into that.
+            Word value;
+            std::memcpy(&value, bytes, Width);
+            return Swapped() ? Swap(value) : value;
         }
-        return value;
     }
 
     /// Writes the low `Width` bytes of `value`.
     static void Store(std::uint32_t value, unsigned char* bytes) noexcept {
-        for (std::size_t i = 0; i < Width; ++i) {
-            bytes[BigEndian ? Width - 1 - i : i] = static_cast<unsigned char>(value >> (8 * i));
+        if constexpr (Width == 1) {
+            bytes[0] = static_cast<unsigned char>(value);
+        } else {
+            auto word = static_cast<Word>(value);
+            word = Swapped() ? Swap(word) : word;
+            std::memcpy(bytes, &word, Width);
+        }
+    }
+
+private:
+    using Word = std::conditional_t<Width == 2, std::uint16_t, std::uint32_t>;
+
+    static constexpr bool Swapped() noexcept { return BigEndian != (__BYTE_ORDER__ == __ORDER_BIG_ENDIAN__); }
+
+    static Word Swap(Word word) noexcept {
+        if constexpr (Width == 2) {
+            return __builtin_bswap16(word);
+        } else {
+            return __builtin_bswap32(word);
         }
     }
 };
