@@ -409,6 +409,32 @@ struct Utf32Source : CodePointSource<Utf32Source<BigEndian>> {
     }
 };
 
+// UTF-16 or UTF-32 into UTF-8 one unit at a time, characters of one and two bytes written here and
+// the others by the reader, until 16 ASCII in a row or a block before `stop`.
+template <class SourceUnits, class TReader>
+void MixedIntoUtf8(const unsigned char*& in, const unsigned char* stop, const unsigned char* end,
+                   unsigned char*& out, const TReader& reader) noexcept {
+    std::size_t ascii = 0;
+    while (ascii < 16 && stop - in >= static_cast<std::ptrdiff_t>(detail::BlockBytes)) {
+        const std::uint32_t unit = SourceUnits::Load(in);
+        if (unit < 0x80) {
+            *out++ = static_cast<unsigned char>(unit);
+            in += SourceUnits::width;
+            ++ascii;
+            continue;
+        }
+        ascii = 0;
+        if (unit < 0x800) {
+            out[0] = static_cast<unsigned char>(0xC0 | unit >> 6);
+            out[1] = static_cast<unsigned char>(0x80 | (unit & 0x3F));
+            out += 2;
+            in += SourceUnits::width;
+            continue;
+        }
+        reader.Step(in, end, out);
+    }
+}
+
 // The conversion of one pair. Blocks of 64 bytes go through ConvertBlock; the units at or above the
 // limit both sides agree on are then put in place when the source can (single-byte charsets into
 // fixed widths), or else the block is taken up to the first of them and the source reads the
@@ -477,10 +503,21 @@ template <class TSource, class TTarget>
                     if (stop - in < static_cast<std::ptrdiff_t>(shortBytes)) {
                         break;
                     }
-                    if (detail::ConvertBlock<SourceUnits, TargetUnits, limit, shortBytes>(in, out) == 0) {
+                    const std::uint64_t stopped =
+                        detail::ConvertBlock<SourceUnits, TargetUnits, limit, shortBytes>(in, out);
+                    if (stopped == 0) {
                         in += shortBytes;
                         out += 16 * TargetUnits::width;
                         break;
+                    }
+                    if constexpr (SourceUnits::width != 1 && std::is_same_v<TTarget, Utf8Target>) {
+                        // UTF-16 and UTF-32 text that mixes scripts into UTF-8: where the block
+                        // stopped within 8 units, the text goes unit by unit, the one- and two-byte
+                        // characters written here, until 16 ASCII in a row.
+                        if (detail::FirstUnit<SourceUnits>(stopped) < 8) {
+                            MixedIntoUtf8<SourceUnits>(in, stop, end, out, reader);
+                            break;
+                        }
                     }
                     // The run before the next such character, unit by unit: predicted branches let
                     // the next character start before this run's length is known. The block just
