@@ -2,9 +2,9 @@
 // decoder and encoder give one virtual call at a time, and well-formed UTF-8 comes back unchanged
 // through UTF-16 and UTF-32. After ASCII padding that ends a little before the end of a block or of
 // one of the chunks the conversion works through (the rest of the same two bytes pick which), the
-// input converts to the same bytes: where the chunks fall changes nothing. TranscodeStrict gives the same where it succeeds; where it stops, it
-// has written the lenient conversion of the bytes before the failing character, and the rest stops
-// again at its own start for the same reason.
+// input converts to the same bytes: where the chunks fall changes nothing. TranscodeStrict gives
+// the same where it succeeds; where it stops, it has written the lenient conversion of the bytes
+// before the failing character, and the rest stops again at its own start for the same reason.
 #include "PlurexData/unicode/Charset.h"
 #include "PlurexData/unicode/Transcode.h"
 #include "unicode/ReferenceTranscode.h"
@@ -42,7 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Check(output == PlurexTest::ReferenceTranscode(input, from, to));
 
     // The conversion stages at most 16 KiB of output at a time: these are the input sizes of its
-    // chunks for the pairs' widths (and 64, a block). Half the inputs are tried after padding.
+    // chunks (16 KiB over the most bytes a pair writes per input unit, times the unit's width,
+    // rounded down to 64 bytes), and 64, a block. Half the inputs are tried after padding.
     const std::size_t boundaries[] = {64, 4096, 5440, 8192, 10880, 16384, 32768, 65536};
     const std::size_t choice = data[0] / charsets.size() % (2 * std::size(boundaries));
     if (choice < std::size(boundaries)) {
@@ -67,7 +68,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Check(strict == Transcode(input.substr(0, offset), from, to));
         Check((problem->reason == TranscodeProblem::Reason::Unmappable) == (problem->codePoint != 0));
         std::string rest;
-        const std::optional<TranscodeProblem> again = TryTranscodeStrict(input.substr(offset), from, to, rest);
+        const std::optional<TranscodeProblem> again =
+            TryTranscodeStrict(input.substr(offset), from, to, rest);
         Check(again && again->offset == 0 && again->reason == problem->reason &&
               again->codePoint == problem->codePoint);
     }

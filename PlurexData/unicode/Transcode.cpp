@@ -31,8 +31,9 @@ namespace Korv::Plurex::Unicode {
 namespace {
 
 constexpr CodePoint ReplacementCharacter = 0xFFFD;
-// Output is staged in a buffer on the stack and appended to the string a chunk at a time. The
-// slack covers what a block or a character may write past the bound of the chunk.
+// Output is staged in a buffer on the stack and appended to the string a chunk at a time. A chunk's
+// input is sized so that its output fits StagingSize; the slack covers the character that ends past
+// the chunk and the bytes written beyond what is kept (4 for a character).
 constexpr std::size_t StagingSize = 16384;
 constexpr std::size_t StagingSlack = 256;
 // No encoder writes more than 4 bytes for a code point.
@@ -251,8 +252,8 @@ struct SingleByteSource {
                 ByteMap bytes{};
                 for (unsigned int byte = 0; byte < 256; ++byte) {
                     const auto value = static_cast<unsigned char>(byte);
-                    bytes.length[byte] = static_cast<unsigned char>(target.Put(TDecode()(value), bytes.bytes[byte]) -
-                                                                    bytes.bytes[byte]);
+                    bytes.length[byte] = static_cast<unsigned char>(
+                        target.Put(TDecode()(value), bytes.bytes[byte]) - bytes.bytes[byte]);
                 }
                 return bytes;
             }();
@@ -315,8 +316,6 @@ struct CodePointSource {
             TSource::Step(in, end, out, target_);
         }
 
-        void Fix(const unsigned char*, std::uint64_t, unsigned char*) const noexcept {}
-
     private:
         const TTarget& target_;
     };
@@ -345,13 +344,15 @@ struct Utf8Source : CodePointSource<Utf8Source> {
             in += 2;
             return;
         }
-        if (lead >= 0xE0 && lead < 0xF0 && end - in >= 3 && (in[1] & 0xC0) == 0x80 && (in[2] & 0xC0) == 0x80) {
+        if (lead >= 0xE0 && lead < 0xF0 && end - in >= 3 && (in[1] & 0xC0) == 0x80 &&
+            (in[2] & 0xC0) == 0x80) {
             out = target.Put((lead & 0x0F) << 12 | (in[1] & 0x3F) << 6 | (in[2] & 0x3F), out);
             in += 3;
             return;
         }
         const std::size_t length = SequenceLength(*in);
-        if (length != 0 && static_cast<std::size_t>(end - in) >= length && AreContinuations(in + 1, length - 1)) {
+        if (length != 0 && static_cast<std::size_t>(end - in) >= length &&
+            AreContinuations(in + 1, length - 1)) {
             out = target.Put(GetCode(in, static_cast<unsigned char>(length)), out);
             in += length;
             return;
@@ -364,7 +365,6 @@ template <bool BigEndian>
 struct Utf16Source : CodePointSource<Utf16Source<BigEndian>> {
     using Units = detail::Units<2, BigEndian>;
     static constexpr std::uint64_t identityBelow = 0xD800;
-    static constexpr bool isUtf8 = false;
 
     // A unit, or a high surrogate and the unit after it; nothing for an odd last byte or a high
     // surrogate at the end.
@@ -395,7 +395,6 @@ template <bool BigEndian>
 struct Utf32Source : CodePointSource<Utf32Source<BigEndian>> {
     using Units = detail::Units<4, BigEndian>;
     static constexpr std::uint64_t identityBelow = detail::NoLimit;
-    static constexpr bool isUtf8 = false;
 
     template <class TTarget>
     static void Step(const unsigned char*& in, const unsigned char* end, unsigned char*& out,
@@ -438,8 +437,8 @@ void MixedIntoUtf8(const unsigned char*& in, const unsigned char* stop, const un
 // The conversion of one pair. Blocks of 64 bytes go through ConvertBlock; the units at or above the
 // limit both sides agree on are then put in place when the source can (single-byte charsets into
 // fixed widths), or else the block is taken up to the first of them and the source reads the
-// character there. Units are whole from the start of the input (chunks are multiples of 64 bytes),
-// so a block never splits one. Output is staged a chunk at a time and appended.
+// character there. The position only ever moves by whole units, so a block never splits one. Output
+// is staged a chunk at a time and appended.
 template <class TSource, class TTarget>
 [[gnu::flatten]] void ConvertPair(std::string_view input, std::string& output) {
     using SourceUnits = typename TSource::Units;
@@ -451,7 +450,7 @@ template <class TSource, class TTarget>
     constexpr std::size_t blockBytes = detail::BlockBytes;
     constexpr std::size_t chunkBytes =
         StagingSize / MaxBytesPerUnit<TSource, TTarget>() * SourceUnits::width / blockBytes * blockBytes;
-    static_assert(chunkBytes % 4 == 0 && chunkBytes >= blockBytes && StagingSlack >= blockBytes * 4);
+    static_assert(chunkBytes % 4 == 0 && chunkBytes >= blockBytes);
 
     const TTarget target;
     const Reader reader(target);
@@ -522,7 +521,8 @@ template <class TSource, class TTarget>
                     // The run before the next such character, unit by unit: predicted branches let
                     // the next character start before this run's length is known. The block just
                     // converted holds such a character, so the run ends inside it.
-                    for (std::uint32_t unit = SourceUnits::Load(in); unit < limit; unit = SourceUnits::Load(in)) {
+                    for (std::uint32_t unit = SourceUnits::Load(in); unit < limit;
+                         unit = SourceUnits::Load(in)) {
                         TargetUnits::Store(unit, out);
                         in += SourceUnits::width;
                         out += TargetUnits::width;
@@ -749,7 +749,8 @@ std::string Prefix(std::size_t offset) {
     return "byte " + std::to_string(offset) + ": ";
 }
 
-TranscodeProblem Malformed(const unsigned char* sequence, std::size_t size, std::size_t offset, Charset from) {
+TranscodeProblem Malformed(const unsigned char* sequence, std::size_t size, std::size_t offset,
+                           Charset from) {
     static const char digits[] = "0123456789ABCDEF";
     std::string bytes;
     for (std::size_t i = 0; i < size; ++i) {
@@ -771,7 +772,8 @@ TranscodeProblem Incomplete(std::size_t offset, Charset from) {
 TranscodeProblem Unmappable(CodePoint codePoint, std::size_t offset, Charset to) {
     char name[16];
     std::snprintf(name, sizeof name, "U+%04X", static_cast<unsigned int>(codePoint));
-    return {TranscodeProblem::Reason::Unmappable, offset, codePoint, Prefix(offset) + name + " not in " + ToString(to)};
+    return {TranscodeProblem::Reason::Unmappable, offset, codePoint,
+            Prefix(offset) + name + " not in " + ToString(to)};
 }
 
 std::optional<TranscodeProblem> ConvertStrict(std::string_view input, Charset from, Charset to,

@@ -98,16 +98,31 @@ TEST(Transcode, OutputUntouchedOnUnknownCharsetAndMayBeTheInput) {
 // UTF-32 values above 0x10FFFF and negative ones.
 std::vector<std::string> Pieces() {
     const std::string ascii = "plain ASCII text, long enough for a block of sixty-four bytes or more, ";
-    std::vector<std::string> pieces = {ascii,
-                                       "Gr\xC3\xB6\xC3\x9F\x65 \xCE\x95\xCE\xBB\xCE\xBB\xCE\xAC\xCE\xB4\xCE\xB1 "
-                                       "\xD0\x9C\xD0\xBE\xD1\x81\xD0\xBA\xD0\xB2\xD0\xB0 \xE6\x9D\xB1\xE4\xBA\xAC "
-                                       "za\xC5\xBC\xC3\xB3\xC5\x82\xC4\x87 g\xC4\x99\xC5\x9Bl\xC4\x85 ",
-                                       "\xC3\xA9", "\xE2\x94\x80", "\xF0\x9F\x98\x80", "\xED\xA0\x80", "\xED\x9F\xBF",
-                                       "\xC0\x80", "\xE0\x80\x80", "\xC3", "\x80", "\xF8\x88\x80\x80\x80", "\xFF",
-                                       std::string("\0\xD8\x00\xDC", 4)};
-    const std::u32string wide[] = {U"Gr\u00F6\u00DFe \u00FCber", U"\u0141\u00F3d\u017A \u017Ar\u00F3d\u0142o",
-                                   U"\u6771\u4EAC", U"\U0001F600", std::u32string(1, 0xD800), std::u32string(1, 0xDC00),
-                                   std::u32string(1, 0x110000), std::u32string(1, 0xFFFFFFFF)};
+    std::vector<std::string> pieces = {
+        ascii,
+        "Gr\xC3\xB6\xC3\x9F\x65 \xCE\x95\xCE\xBB\xCE\xBB\xCE\xAC\xCE\xB4\xCE\xB1 "
+        "\xD0\x9C\xD0\xBE\xD1\x81\xD0\xBA\xD0\xB2\xD0\xB0 \xE6\x9D\xB1\xE4\xBA\xAC "
+        "za\xC5\xBC\xC3\xB3\xC5\x82\xC4\x87 g\xC4\x99\xC5\x9Bl\xC4\x85 ",
+        "\xC3\xA9",
+        "\xE2\x94\x80",
+        "\xF0\x9F\x98\x80",
+        "\xED\xA0\x80",
+        "\xED\x9F\xBF",
+        "\xC0\x80",
+        "\xE0\x80\x80",
+        "\xC3",
+        "\x80",
+        "\xF8\x88\x80\x80\x80",
+        "\xFF",
+        std::string("\0\xD8\x00\xDC", 4)};
+    const std::u32string wide[] = {U"Gr\u00F6\u00DFe \u00FCber",
+                                   U"\u0141\u00F3d\u017A \u017Ar\u00F3d\u0142o",
+                                   U"\u6771\u4EAC",
+                                   U"\U0001F600",
+                                   std::u32string(1, 0xD800),
+                                   std::u32string(1, 0xDC00),
+                                   std::u32string(1, 0x110000),
+                                   std::u32string(1, 0xFFFFFFFF)};
     for (const std::u32string& text : wide) {
         for (const bool bigEndian : {false, true}) {
             std::string utf16;
@@ -161,6 +176,31 @@ TEST(Transcode, EveryPairMatchesTheCodersOneByteAtATime) {
             for (const Charset to : GetCharsets()) {
                 ASSERT_EQ(Transcode(input, from, to), PlurexTest::ReferenceTranscode(input, from, to))
                     << ToString(from) << " to " << ToString(to) << ", round " << round;
+            }
+        }
+    }
+}
+
+// The character that ends a block or a chunk, whatever it is, converts as it does alone: after ASCII
+// padding that ends 1 to 8 units before such an end, the pieces convert as they do without it. The
+// chunks are 16 KiB of output over the most bytes a pair writes per unit of input: these input sizes.
+TEST(Transcode, CharactersAcrossBlockAndChunkEndsConvertAsAlone) {
+    std::string tail;
+    for (const std::string& piece : Pieces()) {
+        tail = piece + tail;  // the ASCII piece last: what straddles is the rest
+    }
+    for (const Charset from : GetCharsets()) {
+        const std::size_t width = Transcode("a", Charset::Ascii, from).size();
+        for (const Charset to : GetCharsets()) {
+            const std::string alone = PlurexTest::ReferenceTranscode(tail, from, to);
+            for (const std::size_t end : {64, 4096, 5440, 8192, 10880, 16384, 32768, 65536}) {
+                for (std::size_t before = 1; before <= 8; ++before) {
+                    const std::string pad =
+                        Transcode(std::string(end / width - before, 'a'), Charset::Ascii, from);
+                    ASSERT_EQ(Transcode(pad + tail, from, to), Transcode(pad, from, to) + alone)
+                        << ToString(from) << " to " << ToString(to) << ", " << before << " units before "
+                        << end;
+                }
             }
         }
     }

@@ -1,8 +1,8 @@
 #pragma once
 
-// Blocks of 16 code units converted at once: the fast path of Transcode for runs of characters that
+// Blocks of code units converted at once: the fast path of Transcode for runs of characters that
 // both charsets write as a single unit holding the code point itself (ASCII everywhere, Latin-1 from
-// ISO 8859-1 into UTF-16, the whole basic plane between UTF-16 and UTF-32).
+// ISO 8859-1 into UTF-16, the basic plane below the surrogates between UTF-16 and UTF-32).
 //
 // With SSE2 (every x86_64 compiler) a block is a few vector instructions; without it (the 32-bit
 // build) the same function is a plain loop, so both give the same bytes and the tests run both.
@@ -111,8 +111,8 @@ unsigned int BelowMask(__m128i units) noexcept {
         // No unsigned 32-bit comparison in SSE2: flip the top bits and compare signed.
         const __m128i bias = _mm_set1_epi32(static_cast<int>(0x80000000u));
         const __m128i last = _mm_set1_epi32(static_cast<int>((Limit - 1) ^ 0x80000000u));
-        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpgt_epi32(_mm_xor_si128(units, bias), last)) ^
-                                         0xFFFF);
+        return static_cast<unsigned int>(
+            _mm_movemask_epi8(_mm_cmpgt_epi32(_mm_xor_si128(units, bias), last)) ^ 0xFFFF);
     }
 }
 
@@ -143,7 +143,8 @@ void Resize(const __m128i* source, __m128i* destination) noexcept {
         destination[2] = _mm_unpacklo_epi16(source[1], zero);
         destination[3] = _mm_unpackhi_epi16(source[1], zero);
     } else if constexpr (SourceWidth == 4 && DestinationWidth == 1) {
-        destination[0] = _mm_packus_epi16(_mm_packs_epi32(source[0], source[1]), _mm_packs_epi32(source[2], source[3]));
+        destination[0] =
+            _mm_packus_epi16(_mm_packs_epi32(source[0], source[1]), _mm_packs_epi32(source[2], source[3]));
     } else {
         // 4 to 2: the signed pack saturates, so each lane first becomes its low 16 bits sign-extended.
         __m128i low[4];
@@ -161,11 +162,11 @@ void Resize(const __m128i* source, __m128i* destination) noexcept {
 /// The bytes of source a block holds: 64, 32 or 16 units.
 constexpr std::size_t BlockBytes = 64;
 
-/// Converts the Bytes / Source::width units (Bytes a multiple of 16 * Source::width, at most 64) at `in` into units of `Destination` at `out`,
-/// exactly for those below `Limit`, and returns a mask of the others: bit k * Source::width set when
-/// unit k is at or above `Limit` (0: the whole block converted). Reads the whole block and writes
-/// all its units, whatever their values: what is written for a unit the mask names is to be
-/// overwritten.
+/// Converts the Bytes / Source::width units (Bytes a multiple of 16 * Source::width, at most 64) at `in` into
+/// units of `Destination` at `out`, exactly for those below `Limit`, and returns a mask of the others: for
+/// unit k at or above `Limit`, bit k * Source::width is set (with SSE2, the bits of the unit's other bytes
+/// too; 0: the whole block converted). Reads the whole block and writes all its units, whatever their values:
+/// what is written for a unit the mask names is to be overwritten.
 template <class Source, class Destination, std::uint64_t Limit, std::size_t Bytes = BlockBytes>
 std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept {
     constexpr std::size_t sourceWidth = Source::width;
@@ -184,7 +185,8 @@ std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept
             raw[i] = sse2::Load(in + 16 * i);
             units[i] = sse2::Reorder<sourceWidth, Source::bigEndian>(raw[i]);
             if constexpr (checked) {
-                below |= std::uint64_t{sse2::BelowMask<sourceWidth, Limit>(units[i])} << (16 * (part * sourceWidth + i));
+                below |= std::uint64_t{sse2::BelowMask<sourceWidth, Limit>(units[i])}
+                         << (16 * (part * sourceWidth + i));
             }
         }
         if constexpr (sourceWidth == destinationWidth && Source::bigEndian == Destination::bigEndian) {
@@ -195,7 +197,8 @@ std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept
             __m128i converted[destinationWidth];
             sse2::Resize<sourceWidth, destinationWidth>(units, converted);
             for (std::size_t i = 0; i < destinationWidth; ++i) {
-                sse2::Store(sse2::Reorder<destinationWidth, Destination::bigEndian>(converted[i]), out + 16 * i);
+                sse2::Store(sse2::Reorder<destinationWidth, Destination::bigEndian>(converted[i]),
+                            out + 16 * i);
             }
         }
         in += 16 * sourceWidth;
@@ -258,7 +261,7 @@ inline std::size_t WholePrefix(unsigned int wrong, unsigned int leads, unsigned 
 /// For UTF-8 into UTF-8: copies the 16 bytes at `in` to `out`, and counts as copied the whole
 /// sequences at their start that decoding and encoding again give back unchanged (ASCII, two-byte
 /// sequences from 0xC2, three-byte ones from 0xE1 but 0xED). What is written beyond is to be
-/// overwritten. Without SSE2, nothing.
+/// overwritten. Without SSE2, 16 ASCII bytes or nothing.
 inline Copied CopyWellFormedUtf8(const unsigned char* in, unsigned char* out) noexcept {
 #if defined(__SSE2__)
     const __m128i bytes = sse2::Load(in);
@@ -283,9 +286,14 @@ inline Copied CopyWellFormedUtf8(const unsigned char* in, unsigned char* out) no
                                   : sse2::WholePrefix(wrong, leadBits, lead3Bits);
     return {whole, _mm_movemask_epi8(ascii) == 0xFFFF};
 #else
-    static_cast<void>(in);
-    static_cast<void>(out);
-    return {0, false};
+    // ASCII alone, so that text of it goes back to full blocks.
+    std::memcpy(out, in, 16);
+    for (std::size_t i = 0; i < 16; ++i) {
+        if (in[i] >= 0x80) {
+            return {0, false};
+        }
+    }
+    return {16, true};
 #endif
 }
 
