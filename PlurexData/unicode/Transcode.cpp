@@ -494,6 +494,20 @@ template <class TSource, class TTarget>
                     }
                     continue;
                 }
+#if defined(__SSE2__)
+                if constexpr (SourceUnits::width == 2 && std::is_same_v<TTarget, Utf8Target>) {
+                    if (detail::ssse3::Available()) {
+                        // UTF-16 into UTF-8 goes 8 units at a time while they are below 0x800; the 8
+                        // where that stops are read a character at a time.
+                        detail::ssse3::Utf16IntoUtf8<SourceUnits::bigEndian>(in, stop, out);
+                        const auto* const group = in + std::min<std::ptrdiff_t>(16, stop - in);
+                        while (in < group) {
+                            reader.Step(in, end, out);
+                        }
+                        continue;
+                    }
+                }
+#endif
                 const std::size_t below = detail::FirstUnit<SourceUnits>(above);
                 in += below * SourceUnits::width;
                 out += below * TargetUnits::width;

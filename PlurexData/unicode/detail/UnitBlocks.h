@@ -14,6 +14,7 @@
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
+#include <tmmintrin.h>
 #endif
 
 namespace Korv::Plurex::Unicode::detail {
@@ -296,6 +297,88 @@ inline Copied CopyWellFormedUtf8(const unsigned char* in, unsigned char* out) no
     return {16, true};
 #endif
 }
+
+#if defined(__SSE2__)
+namespace ssse3 {
+
+/// Whether the processor has SSSE3 (its byte shuffle is what Utf16IntoUtf8 compacts with).
+inline bool Available() noexcept {
+    static const bool available = __builtin_cpu_supports("ssse3");
+    return available;
+}
+
+/// For each pattern of 8 UTF-16 units (bit k set: unit k is ASCII) made into 16-bit lanes of UTF-8
+/// (the character or the lead byte low, the continuation byte high), the bytes kept, in order, and
+/// how many.
+struct Compaction {
+    unsigned char shuffle[256][16];
+    unsigned char length[256];
+};
+
+constexpr Compaction MakeCompaction() noexcept {
+    Compaction compaction{};
+    for (unsigned int ascii = 0; ascii < 256; ++ascii) {
+        unsigned int kept = 0;
+        for (unsigned int lane = 0; lane < 8; ++lane) {
+            compaction.shuffle[ascii][kept++] = static_cast<unsigned char>(2 * lane);
+            if ((ascii >> lane & 1) == 0) {
+                compaction.shuffle[ascii][kept++] = static_cast<unsigned char>(2 * lane + 1);
+            }
+        }
+        // The bytes after those kept are written past the end: whatever they are.
+        compaction.length[ascii] = static_cast<unsigned char>(kept);
+    }
+    return compaction;
+}
+
+inline constexpr Compaction compaction = MakeCompaction();
+
+/// UTF-16 in the given byte order into UTF-8, 8 units at a time while all 8 are below 0x800 and 16
+/// bytes remain before `stop`; stops at the first 8 that are not. Writes up to 8 bytes beyond what
+/// it keeps. Only to be called where Available(); never inlined, since its callers are flattened and
+/// code for SSSE3 cannot be part of theirs.
+template <bool BigEndian>
+[[gnu::target("ssse3"), gnu::noinline]] void Utf16IntoUtf8(const unsigned char*& in,
+                                                           const unsigned char* stop,
+                                                           unsigned char*& out) noexcept {
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i swap = _mm_setr_epi8(1, 0, 3, 2, 5, 4, 7, 6, 9, 8, 11, 10, 13, 12, 15, 14);
+    const unsigned char* from = in;
+    unsigned char* to = out;
+    while (stop - from >= 16) {
+        __m128i units = sse2::Load(from);
+        if constexpr (BigEndian) {
+            units = _mm_shuffle_epi8(units, swap);
+        }
+        const __m128i high = _mm_and_si128(units, _mm_set1_epi16(static_cast<short>(0xFF80)));
+        if (_mm_movemask_epi8(_mm_cmpeq_epi16(high, zero)) == 0xFFFF) {
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(to), _mm_packus_epi16(units, units));
+            from += 16;
+            to += 8;
+            continue;
+        }
+        const __m128i beyond = _mm_and_si128(units, _mm_set1_epi16(static_cast<short>(0xF800)));
+        if (_mm_movemask_epi8(_mm_cmpeq_epi16(beyond, zero)) != 0xFFFF) {
+            break;
+        }
+        // Each lane below 0x800: 110xxxxx 10xxxxxx as two bytes, or the ASCII character alone.
+        const __m128i ascii = _mm_cmpeq_epi16(high, zero);
+        const __m128i lead = _mm_or_si128(_mm_srli_epi16(units, 6), _mm_set1_epi16(0xC0));
+        const __m128i trail =
+            _mm_slli_epi16(_mm_or_si128(_mm_and_si128(units, _mm_set1_epi16(0x3F)), _mm_set1_epi16(0x80)), 8);
+        const __m128i lanes =
+            _mm_or_si128(_mm_and_si128(ascii, units), _mm_andnot_si128(ascii, _mm_or_si128(lead, trail)));
+        const auto pattern = static_cast<unsigned int>(_mm_movemask_epi8(_mm_packs_epi16(ascii, zero)));
+        sse2::Store(_mm_shuffle_epi8(lanes, sse2::Load(compaction.shuffle[pattern])), to);
+        from += 16;
+        to += compaction.length[pattern];
+    }
+    in = from;
+    out = to;
+}
+
+}  // namespace ssse3
+#endif
 
 /// The index of the first unit a non-zero ConvertBlock mask names.
 template <class Source>
