@@ -224,6 +224,8 @@ struct SingleByteSource {
         // put in place after it (UTF-8 is the one target that writes the code points of these
         // charsets in more than one length).
         static constexpr bool fixesBlocks = !std::is_same_v<TTarget, Utf8Target>;
+        // Into UTF-8, bytes go 16 at a time through Expand instead.
+        static constexpr bool expands = !fixesBlocks;
 
         explicit Reader(const TTarget& target) noexcept : map_(Map(target)) {}
 
@@ -244,6 +246,28 @@ struct SingleByteSource {
                 unit = static_cast<std::size_t>(__builtin_ctzll(above));
                 std::memcpy(out + unit * width, map_.bytes[in[unit]], width);
             }
+        }
+
+        // Into UTF-8, after ConvertBlock copied the block at `in` to `out` and named its bytes from
+        // 0x80 in `above`: writes each of those from the table, the bytes after it copied again
+        // behind it, and returns how many bytes the block makes. The first is written whether there
+        // is one or not (the block's last byte, which is then ASCII), so that text with a character
+        // now and then takes no branch it mispredicts, and the output moves by a sum that does not
+        // wait for the writes. Reads up to 128 bytes; writes up to 68 beyond what it keeps.
+        std::size_t Expand(const unsigned char* in, std::uint64_t above, unsigned char* out) const noexcept {
+            constexpr std::size_t block = detail::BlockBytes;
+            constexpr std::uint64_t last = std::uint64_t{1} << (block - 1);
+            auto at = static_cast<std::size_t>(__builtin_ctzll(above | last));
+            std::memcpy(out + at, map_.bytes[in[at]], MaxBytesPerCodePoint);
+            std::size_t extra = map_.length[in[at]] - std::size_t{1};
+            std::memcpy(out + at + 1 + extra, in + at + 1, block);
+            for (above &= above - 1; above != 0; above &= above - 1) {
+                at = static_cast<std::size_t>(__builtin_ctzll(above));
+                std::memcpy(out + at + extra, map_.bytes[in[at]], MaxBytesPerCodePoint);
+                extra += map_.length[in[at]] - std::size_t{1};
+                std::memcpy(out + at + 1 + extra, in + at + 1, block);
+            }
+            return block + extra;
         }
 
     private:
@@ -308,6 +332,7 @@ struct CodePointSource {
     class Reader {
     public:
         static constexpr bool fixesBlocks = false;
+        static constexpr bool expands = false;
 
         explicit Reader(const TTarget& target) noexcept : target_(target) {}
 
@@ -408,6 +433,65 @@ struct Utf32Source : CodePointSource<Utf32Source<BigEndian>> {
     }
 };
 
+// UTF-8 into a charset of single bytes: the byte of every code point a sequence of one or two
+// bytes makes (below 0x800), from a table made from the target.
+template <class TTarget>
+struct NarrowMap {
+    static const NarrowMap& Of(const TTarget& target) noexcept {
+        static const NarrowMap map = [&] {
+            NarrowMap made{};
+            for (std::uint32_t codePoint = 0; codePoint < 0x800; ++codePoint) {
+                target.Put(static_cast<CodePoint>(codePoint), &made.bytes[codePoint]);
+            }
+            return made;
+        }();
+        return map;
+    }
+
+    unsigned char bytes[0x800];
+};
+
+// After ConvertBlock copied the block at `in` to `out` and named its bytes from 0x80 in `above`:
+// reads the character at each of those, copies the bytes after it again behind what it wrote, and
+// returns where the block's output ends. The first is read whether there is one or not (the
+// block's last byte, which is then ASCII), and without a branch when it is ASCII or two bytes, so
+// that text with a character now and then takes no branch it mispredicts. A character that ends
+// past the block leaves continuation bytes at the start of the next, which make nothing there as
+// they do here. Reads up to 128 bytes; writes up to 64 beyond what it keeps.
+template <class TTarget, class TReader>
+unsigned char* NarrowUtf8Block(const unsigned char* in, const unsigned char* end, std::uint64_t above,
+                               unsigned char* out, const TReader& reader,
+                               const NarrowMap<TTarget>& map) noexcept {
+    constexpr std::size_t block = detail::BlockBytes;
+    constexpr std::uint64_t last = std::uint64_t{1} << (block - 1);
+    const auto at = static_cast<std::size_t>(__builtin_ctzll(above | last));
+    const unsigned char* from = in + at;
+    unsigned char* to = out + at;
+    const std::uint32_t lead = from[0];
+    const bool two = (lead & 0xE0) == 0xC0 && (from[1] & 0xC0) == 0x80;
+    if (lead < 0x80 || two) {
+        const std::uint32_t codePoint = two ? (lead & 0x1F) << 6 | (from[1] & 0x3F) : lead;
+        *to++ = map.bytes[codePoint];
+        from += 1 + static_cast<std::size_t>(two);
+    } else {
+        reader.Step(from, end, to);
+    }
+    std::memcpy(to, from, block);
+    for (auto done = static_cast<std::size_t>(from - in); done < block;
+         done = static_cast<std::size_t>(from - in)) {
+        above &= ~std::uint64_t{0} << done;
+        if (above == 0) {
+            return to + (block - done);
+        }
+        const auto next = static_cast<std::size_t>(__builtin_ctzll(above));
+        to += next - done;
+        from = in + next;
+        reader.Step(from, end, to);
+        std::memcpy(to, from, block);
+    }
+    return to;
+}
+
 // UTF-16 or UTF-32 into UTF-8 one unit at a time, characters of one and two bytes written here and
 // the others by the reader, until 16 ASCII in a row or a block before `stop`.
 template <class SourceUnits, class TReader>
@@ -454,19 +538,55 @@ template <class TSource, class TTarget>
 
     const TTarget target;
     const Reader reader(target);
+    // UTF-8 into a charset of single bytes goes through NarrowUtf8Block.
+    constexpr bool narrows = std::is_same_v<TSource, Utf8Source> && TargetUnits::width == 1 &&
+                             !std::is_same_v<TTarget, Utf8Target>;
+    const auto* const narrowMap = [&]() -> const NarrowMap<TTarget>* {
+        if constexpr (narrows) {
+            return &NarrowMap<TTarget>::Of(target);
+        } else {
+            return nullptr;
+        }
+    }();
+    // Both write blocks that grow or shrink with what they hold; `sparse` is whether most blocks of
+    // the last chunk were ASCII alone.
+    constexpr bool resizes = Reader::expands || narrows;
     unsigned char staging[StagingSize + StagingSlack];
     const auto* in = reinterpret_cast<const unsigned char*>(input.data());
     const auto* const end = in + input.size();
     output.reserve(input.size() / SourceUnits::width * TargetUnits::width);
+    bool sparse = true;
     while (in < end) {
         const auto* const stop = in + std::min<std::size_t>(chunkBytes, static_cast<std::size_t>(end - in));
         unsigned char* out = staging;
+        std::size_t stops = 0;
         while (stop - in >= static_cast<std::ptrdiff_t>(blockBytes)) {
             const std::uint64_t above = detail::ConvertBlock<SourceUnits, TargetUnits, limit>(in, out);
             if constexpr (!checked) {
                 static_cast<void>(above);  // always 0
             } else if constexpr (Reader::fixesBlocks) {
                 reader.Fix(in, above, out);
+            } else if constexpr (resizes) {
+                // Text where most blocks are ASCII (the last chunk says) skips those with a branch
+                // that is then predicted; other text takes every block through the same code.
+                stops += above != 0;
+                if (sparse && above == 0) {
+                    in += blockBytes;
+                    out += blockBytes;
+                    continue;
+                }
+                if (end - in >= static_cast<std::ptrdiff_t>(2 * blockBytes)) {
+                    if constexpr (narrows) {
+                        out = NarrowUtf8Block(in, end, above, out, reader, *narrowMap);
+                    } else {
+                        out += reader.Expand(in, above, out);
+                    }
+                    in += blockBytes;
+                    continue;
+                }
+                if (above != 0) {
+                    break;  // the last block of the text, read a character at a time
+                }
             } else if (above != 0) {
                 // The character there is read on its own; then a block of 16 units is tried, and
                 // where it does not convert whole, its run is taken unit by unit and the next
@@ -551,6 +671,9 @@ template <class TSource, class TTarget>
             reader.Step(in, end, out);
         }
         output.append(reinterpret_cast<const char*>(staging), static_cast<std::size_t>(out - staging));
+        if constexpr (resizes) {
+            sparse = stops < chunkBytes / blockBytes / 16;
+        }
     }
 }
 
