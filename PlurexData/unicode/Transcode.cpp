@@ -457,24 +457,35 @@ struct NarrowMap {
 // block's last byte, which is then ASCII), and without a branch when it is ASCII or two bytes, so
 // that text with a character now and then takes no branch it mispredicts. A character that ends
 // past the block leaves continuation bytes at the start of the next, which make nothing there as
-// they do here. Reads up to 128 bytes; writes up to 64 beyond what it keeps.
+// they do here. Reads up to 128 bytes; writes up to 64 beyond what it keeps. Into UTF-8 the first
+// character, when ASCII or two bytes, is passed over, and `map` is not read.
 template <class TTarget, class TReader>
 unsigned char* NarrowUtf8Block(const unsigned char* in, const unsigned char* end, std::uint64_t above,
                                unsigned char* out, const TReader& reader,
-                               const NarrowMap<TTarget>& map) noexcept {
+                               const NarrowMap<TTarget>* map) noexcept {
     constexpr std::size_t block = detail::BlockBytes;
     constexpr std::uint64_t last = std::uint64_t{1} << (block - 1);
     const auto at = static_cast<std::size_t>(__builtin_ctzll(above | last));
     const unsigned char* from = in + at;
     unsigned char* to = out + at;
     const std::uint32_t lead = from[0];
-    const bool two = (lead & 0xE0) == 0xC0 && (from[1] & 0xC0) == 0x80;
-    if (lead < 0x80 || two) {
-        const std::uint32_t codePoint = two ? (lead & 0x1F) << 6 | (from[1] & 0x3F) : lead;
-        *to++ = map.bytes[codePoint];
-        from += 1 + static_cast<std::size_t>(two);
+    if constexpr (std::is_same_v<TTarget, Utf8Target>) {
+        const bool two = lead >= 0xC2 && lead < 0xE0 && (from[1] & 0xC0) == 0x80;
+        if (lead < 0x80 || two) {
+            from += 1 + static_cast<std::size_t>(two);
+            to += 1 + static_cast<std::size_t>(two);
+        } else {
+            reader.Step(from, end, to);
+        }
     } else {
-        reader.Step(from, end, to);
+        const bool two = (lead & 0xE0) == 0xC0 && (from[1] & 0xC0) == 0x80;
+        if (lead < 0x80 || two) {
+            const std::uint32_t codePoint = two ? (lead & 0x1F) << 6 | (from[1] & 0x3F) : lead;
+            *to++ = map->bytes[codePoint];
+            from += 1 + static_cast<std::size_t>(two);
+        } else {
+            reader.Step(from, end, to);
+        }
     }
     std::memcpy(to, from, block);
     for (auto done = static_cast<std::size_t>(from - in); done < block;
@@ -490,6 +501,30 @@ unsigned char* NarrowUtf8Block(const unsigned char* in, const unsigned char* end
         std::memcpy(to, from, block);
     }
     return to;
+}
+
+// UTF-8 into UTF-8 from the first byte from 0x80 that `above` names in the block at `in`: copies
+// well-formed text 16 bytes at a time while it lasts, reads a character alone where that stops,
+// and returns after 16 ASCII.
+template <class TReader>
+void CopyUtf8Run(const unsigned char*& in, const unsigned char* stop, const unsigned char* end,
+                 std::uint64_t above, unsigned char*& out, const TReader& reader) noexcept {
+    const std::size_t below = detail::FirstUnit<Utf8Source::Units>(above);
+    in += below;
+    out += below;
+    reader.Step(in, end, out);
+    while (stop - in >= 16) {
+        const detail::Copied copied = detail::CopyWellFormedUtf8(in, out);
+        if (copied.bytes == 0) {
+            reader.Step(in, end, out);
+            continue;
+        }
+        in += copied.bytes;
+        out += copied.bytes;
+        if (copied.ascii) {
+            return;
+        }
+    }
 }
 
 // UTF-16 or UTF-32 into UTF-8 one unit at a time, characters of one and two bytes written here and
@@ -538,11 +573,10 @@ template <class TSource, class TTarget>
 
     const TTarget target;
     const Reader reader(target);
-    // UTF-8 into a charset of single bytes goes through NarrowUtf8Block.
-    constexpr bool narrows = std::is_same_v<TSource, Utf8Source> && TargetUnits::width == 1 &&
-                             !std::is_same_v<TTarget, Utf8Target>;
+    // UTF-8 into a charset of single bytes, or into UTF-8, goes through NarrowUtf8Block.
+    constexpr bool narrows = std::is_same_v<TSource, Utf8Source> && TargetUnits::width == 1;
     const auto* const narrowMap = [&]() -> const NarrowMap<TTarget>* {
-        if constexpr (narrows) {
+        if constexpr (narrows && !std::is_same_v<TTarget, Utf8Target>) {
             return &NarrowMap<TTarget>::Of(target);
         } else {
             return nullptr;
@@ -556,10 +590,13 @@ template <class TSource, class TTarget>
     const auto* const end = in + input.size();
     output.reserve(input.size() / SourceUnits::width * TargetUnits::width);
     bool sparse = true;
+    bool dense = false;
     while (in < end) {
         const auto* const stop = in + std::min<std::size_t>(chunkBytes, static_cast<std::size_t>(end - in));
         unsigned char* out = staging;
         std::size_t stops = 0;
+        std::size_t crowded = 0;
+        std::size_t tried = 0;
         while (stop - in >= static_cast<std::ptrdiff_t>(blockBytes)) {
             const std::uint64_t above = detail::ConvertBlock<SourceUnits, TargetUnits, limit>(in, out);
             if constexpr (!checked) {
@@ -575,9 +612,21 @@ template <class TSource, class TTarget>
                     out += blockBytes;
                     continue;
                 }
+                if constexpr (std::is_same_v<TSource, Utf8Source> && std::is_same_v<TTarget, Utf8Target>) {
+                    // UTF-8 into UTF-8: text with characters from 0x80 close together (four or more
+                    // bytes of them in most blocks of the last chunk) is copied a run at a time.
+                    std::uint64_t fewer = above & (above - 1);
+                    fewer &= fewer - 1;
+                    crowded += (fewer & (fewer - 1)) != 0;
+                    ++tried;
+                    if (dense && above != 0) {
+                        CopyUtf8Run(in, stop, end, above, out, reader);
+                        continue;
+                    }
+                }
                 if (end - in >= static_cast<std::ptrdiff_t>(2 * blockBytes)) {
                     if constexpr (narrows) {
-                        out = NarrowUtf8Block(in, end, above, out, reader, *narrowMap);
+                        out = NarrowUtf8Block(in, end, above, out, reader, narrowMap);
                     } else {
                         out += reader.Expand(in, above, out);
                     }
@@ -592,28 +641,6 @@ template <class TSource, class TTarget>
                 // where it does not convert whole, its run is taken unit by unit and the next
                 // character read, until one does: mostly-ASCII text soon goes back to full blocks.
                 constexpr std::size_t shortBytes = 16 * SourceUnits::width;
-                if constexpr (std::is_same_v<TSource, Utf8Source> && std::is_same_v<TTarget, Utf8Target>) {
-                    // UTF-8 into UTF-8 copies well-formed text 16 bytes at a time while it lasts,
-                    // reads a character alone where that stops, and goes back to full blocks after
-                    // 16 ASCII.
-                    const std::size_t below = detail::FirstUnit<SourceUnits>(above);
-                    in += below;
-                    out += below;
-                    reader.Step(in, end, out);
-                    while (stop - in >= 16) {
-                        const detail::Copied copied = detail::CopyWellFormedUtf8(in, out);
-                        if (copied.bytes == 0) {
-                            reader.Step(in, end, out);
-                            continue;
-                        }
-                        in += copied.bytes;
-                        out += copied.bytes;
-                        if (copied.ascii) {
-                            break;
-                        }
-                    }
-                    continue;
-                }
 #if defined(__SSE2__)
                 if constexpr (SourceUnits::width == 2 && std::is_same_v<TTarget, Utf8Target>) {
                     if (detail::ssse3::Available()) {
@@ -673,6 +700,7 @@ template <class TSource, class TTarget>
         output.append(reinterpret_cast<const char*>(staging), static_cast<std::size_t>(out - staging));
         if constexpr (resizes) {
             sparse = stops < chunkBytes / blockBytes / 16;
+            dense = crowded > tried / 2;
         }
     }
 }

@@ -380,19 +380,6 @@ template <bool BigEndian>
 }  // namespace ssse3
 #endif
 
-/// Bit k set where byte k of the 16 at `bytes` is 0x80 or above.
-inline unsigned int HighBytes(const unsigned char* bytes) noexcept {
-#if defined(__SSE2__)
-    return static_cast<unsigned int>(_mm_movemask_epi8(sse2::Load(bytes)));
-#else
-    unsigned int high = 0;
-    for (unsigned int i = 0; i < 16; ++i) {
-        high |= static_cast<unsigned int>(bytes[i] >> 7) << i;
-    }
-    return high;
-#endif
-}
-
 /// The index of the first unit a non-zero ConvertBlock mask names.
 template <class Source>
 std::size_t FirstUnit(std::uint64_t mask) noexcept {
