@@ -451,14 +451,18 @@ struct NarrowMap {
     unsigned char bytes[0x800];
 };
 
+// What NarrowUtf8Block reads from a block: its last character may start at the block's last byte
+// and take four, and 64 bytes are copied after it.
+constexpr std::size_t NarrowReadBytes = 2 * detail::BlockBytes + 3;
+
 // After ConvertBlock copied the block at `in` to `out` and named its bytes from 0x80 in `above`:
 // reads the character at each of those, copies the bytes after it again behind what it wrote, and
 // returns where the block's output ends. The first is read whether there is one or not (the
 // block's last byte, which is then ASCII), and without a branch when it is ASCII or two bytes, so
 // that text with a character now and then takes no branch it mispredicts. A character that ends
 // past the block leaves continuation bytes at the start of the next, which make nothing there as
-// they do here. Reads up to 128 bytes; writes up to 64 beyond what it keeps. Into UTF-8 the first
-// character, when ASCII or two bytes, is passed over, and `map` is not read.
+// they do here. Reads up to NarrowReadBytes; writes up to 64 beyond what it keeps. Into UTF-8 the
+// first character, when ASCII or two bytes, is copied as it stands, and `map` is not read.
 template <class TTarget, class TReader>
 unsigned char* NarrowUtf8Block(const unsigned char* in, const unsigned char* end, std::uint64_t above,
                                unsigned char* out, const TReader& reader,
@@ -472,6 +476,7 @@ unsigned char* NarrowUtf8Block(const unsigned char* in, const unsigned char* end
     if constexpr (std::is_same_v<TTarget, Utf8Target>) {
         const bool two = lead >= 0xC2 && lead < 0xE0 && (from[1] & 0xC0) == 0x80;
         if (lead < 0x80 || two) {
+            std::memcpy(to, from, 2);  // a lead that ends the block has its continuation past the copy
             from += 1 + static_cast<std::size_t>(two);
             to += 1 + static_cast<std::size_t>(two);
         } else {
@@ -624,7 +629,7 @@ template <class TSource, class TTarget>
                         continue;
                     }
                 }
-                if (end - in >= static_cast<std::ptrdiff_t>(2 * blockBytes)) {
+                if (end - in >= static_cast<std::ptrdiff_t>(narrows ? NarrowReadBytes : 2 * blockBytes)) {
                     if constexpr (narrows) {
                         out = NarrowUtf8Block(in, end, above, out, reader, narrowMap);
                     } else {

@@ -206,4 +206,22 @@ TEST(Transcode, CharactersAcrossBlockAndChunkEndsConvertAsAlone) {
     }
 }
 
+// UTF-8 whose every block ends with the first byte of a two-byte character, each a different one,
+// over several chunks: the second byte is written where it belongs, not left as an earlier chunk's.
+TEST(Transcode, TwoByteCharactersAcrossEveryBlockEnd) {
+    std::mt19937 random(20261123);
+    std::string input(63, 'a');
+    while (input.size() < 100000) {
+        const auto codePoint = static_cast<unsigned>(0x80 + random() % 0x780);
+        input += static_cast<char>(0xC0 | codePoint >> 6);
+        input += static_cast<char>(0x80 | (codePoint & 0x3F));
+        input += std::string(62, 'a');
+    }
+    for (const Charset to : GetCharsets()) {
+        EXPECT_EQ(Transcode(input, Charset::Utf8, to),
+                  PlurexTest::ReferenceTranscode(input, Charset::Utf8, to))
+            << ToString(to);
+    }
+}
+
 }  // namespace
