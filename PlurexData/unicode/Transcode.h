@@ -11,9 +11,9 @@
 namespace Korv::Plurex::Unicode {
 
 /// Converts `input` from one charset to another, byte for byte as feeding the decoder of `from` and
-/// handing each completed code point to the encoder of `to` would (runs that both charsets write as
-/// the code point's own value go 16 units at a time, with SSE2 where the compiler targets it, and
-/// give the same bytes):
+/// handing each completed code point to the encoder of `to` would (text goes a block of units at a
+/// time, with SSE2 where the compiler targets it and SSSE3 where the processor has it, and gives the
+/// same bytes):
 /// - bytes the decoder drops (malformed UTF-8) produce nothing, and neither does a partial sequence
 ///   left at the end of the input; nothing is reported, as the decoders report nothing;
 /// - a code point is written as the GetNbBytes bytes its encoder announces, with the encoders' own
