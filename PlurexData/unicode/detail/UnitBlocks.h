@@ -98,22 +98,24 @@ __m128i Reorder(__m128i vector) noexcept {
     }
 }
 
-/// One bit per byte (movemask) of the lanes whose unit is below `Limit`.
+/// One bit per byte (movemask) of the lanes whose unit is at or above `Limit`.
 template <std::size_t Width, std::uint64_t Limit>
-unsigned int BelowMask(__m128i units) noexcept {
+unsigned int AboveMask(__m128i units) noexcept {
     const __m128i zero = _mm_setzero_si128();
-    if constexpr (Width == 1) {
+    if constexpr (Width == 1 && Limit == 0x80) {
+        return static_cast<unsigned int>(_mm_movemask_epi8(units));  // the top bits themselves
+    } else if constexpr (Width == 1) {
         const __m128i excess = _mm_subs_epu8(units, _mm_set1_epi8(static_cast<char>(Limit - 1)));
-        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi8(excess, zero)));
+        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi8(excess, zero))) ^ 0xFFFF;
     } else if constexpr (Width == 2) {
         const __m128i excess = _mm_subs_epu16(units, _mm_set1_epi16(static_cast<short>(Limit - 1)));
-        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi16(excess, zero)));
+        return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi16(excess, zero))) ^ 0xFFFF;
     } else {
         // No unsigned 32-bit comparison in SSE2: flip the top bits and compare signed.
         const __m128i bias = _mm_set1_epi32(static_cast<int>(0x80000000u));
         const __m128i last = _mm_set1_epi32(static_cast<int>((Limit - 1) ^ 0x80000000u));
         return static_cast<unsigned int>(
-            _mm_movemask_epi8(_mm_cmpgt_epi32(_mm_xor_si128(units, bias), last)) ^ 0xFFFF);
+            _mm_movemask_epi8(_mm_cmpgt_epi32(_mm_xor_si128(units, bias), last)));
     }
 }
 
@@ -176,7 +178,7 @@ std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept
     static_assert(Bytes % (16 * sourceWidth) == 0 && Bytes <= 64);
 #if defined(__SSE2__)
     // 16 units at a time: sourceWidth vectors in, destinationWidth vectors out.
-    std::uint64_t below = 0;
+    std::uint64_t above = 0;
 #pragma GCC unroll 4
     for (std::size_t part = 0; part < Bytes / (16 * sourceWidth); ++part) {
         __m128i raw[sourceWidth];
@@ -186,7 +188,7 @@ std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept
             raw[i] = sse2::Load(in + 16 * i);
             units[i] = sse2::Reorder<sourceWidth, Source::bigEndian>(raw[i]);
             if constexpr (checked) {
-                below |= std::uint64_t{sse2::BelowMask<sourceWidth, Limit>(units[i])}
+                above |= std::uint64_t{sse2::AboveMask<sourceWidth, Limit>(units[i])}
                          << (16 * (part * sourceWidth + i));
             }
         }
@@ -205,8 +207,7 @@ std::uint64_t ConvertBlock(const unsigned char* in, unsigned char* out) noexcept
         in += 16 * sourceWidth;
         out += 16 * destinationWidth;
     }
-    constexpr std::uint64_t all = Bytes == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << Bytes) - 1;
-    return checked ? ~below & all : 0;
+    return above;
 #else
     std::uint64_t above = 0;
     for (std::size_t i = 0; i < Bytes / sourceWidth; ++i) {
