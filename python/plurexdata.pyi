@@ -1,0 +1,468 @@
+"""The data model of a networked broadcast video-server installation.
+
+Type information for the compiled module `plurexdata`, kept in step with it (a test checks that every
+public name of the module appears here).
+"""
+
+import enum
+from typing import List, Optional
+
+__version__: str
+
+# Enumerations of a clip: the library's tables. A value a table does not name reads as its default
+# member (Unknown, or the table's own default).
+
+class AfdAspectRatio(enum.IntEnum):
+    Unknown = 0
+    FullFrame = 1
+    PillarBox = 2
+    LetterBox = 3
+
+class AlphaArchiveStatus(enum.IntEnum):
+    # None = 0, reached as Enumeration["None"] (None is a keyword)
+    Important = 1
+    ImportantAndStored = 2
+    Unknown = 3
+
+class ArchiveStatus(enum.IntEnum):
+    NoStore = 0
+    ToStore = 1
+    Stored = 2
+    Unknown = 3
+
+class AudioConfiguration(enum.IntEnum):
+    NoAudio = 0
+    Mono = 1
+    Stereo = 2
+    DualStereo = 3
+    EightMonos = 4
+    SixteenMonos = 5
+    TwentyFourMonos = 6
+    ThirtyTwoMonos = 7
+    Unknown = 8
+
+class Camera(enum.IntEnum):
+    A = 1
+    B = 2
+    C = 3
+    D = 4
+    E = 5
+    F = 6
+    G = 7
+    H = 8
+    I = 9
+    J = 10
+    K = 11
+    L = 12
+    X = 13
+    Y = 14
+    Z = 15
+    Unknown = 16
+
+class CodedFrameAspectRatio(enum.IntEnum):
+    Unknown = 0
+    FourThirds = 1
+    SixteenNinths = 2
+
+class FillAndKeyStatus(enum.IntEnum):
+    # None = 0, reached as Enumeration["None"] (None is a keyword)
+    Fill = 1
+    Key = 2
+    Unknown = 3
+
+class HdrProfile(enum.IntEnum):
+    Sdr = 0
+    Pq = 1
+    Hlg = 2
+    SLog3 = 3
+    VLog = 4
+    Unknown = 5
+
+class PreferentialCamera(enum.IntEnum):
+    # None = 0, reached as Enumeration["None"] (None is a keyword)
+    Main = 1
+    Secondary = 2
+    Unknown = 3
+
+class PrimaryTimecode(enum.IntEnum):
+    NotSet = 0
+    Tod = 1
+    User = 2
+    Unknown = 3
+
+class Rating(enum.IntEnum):
+    # None = 0, reached as Enumeration["None"] (None is a keyword)
+    Poor = 1
+    Good = 2
+    Best = 3
+    Unknown = 4
+
+class SourceEngine(enum.IntEnum):
+    # None = 0, reached as Enumeration["None"] (None is a keyword)
+    EditRec = 1
+    Timeline = 2
+    Derush = 3
+    Unknown = 4
+
+class TimecodeType(enum.IntEnum):
+    AnalogLtc = 0
+    AtcLtc = 1
+    AtcVitc = 2
+    Unknown = 3
+
+class TrainStatus(enum.IntEnum):
+    NotATrain = 0
+    InactiveTrain = 1
+    ActiveTrain = 2
+    Unknown = 3
+
+class UhdDivisionMode(enum.IntEnum):
+    # None = 0, reached as Enumeration["None"] (None is a keyword)
+    Square = 1
+    SampleInterleave = 2
+    Unknown = 3
+
+class UserProtect(enum.IntEnum):
+    # None = 0x0, reached as Enumeration["None"] (None is a keyword)
+    Dorsel = 0x1
+    Brenix = 0x2
+    Wexor = 0x4
+    Morrit = 0x8
+    Kep = 0x10
+    Qorvane = 0x20
+    Drovik = 0x40
+    Pellawyn = 0x80
+    Talvane = 0x100
+    All = 0xFFFF
+    Unknown = 0x10000
+
+class VideoFormat(enum.IntEnum):
+    Sd = 0
+    Hd720p = 1
+    Hd1080i = 2
+    Wexor = 3
+    Uhd4k = 4
+    Unknown = 5
+
+class VideoStandard(enum.IntEnum):
+    Pal = 0
+    Ntsc = 1
+    Unknown = 2
+
+class WideColorGamut(enum.IntEnum):
+    Rec709 = 0
+    Rec2020 = 1
+    Unknown = 2
+
+class essences:
+    """The enumerations of a clip's essences (a submodule)."""
+
+    class ArchiveStatus(enum.IntEnum):
+        NoStore = 0
+        Stored = 1
+        Unknown = 2
+
+    class AudioCompressionType(enum.IntEnum):
+        IntraNone = 0
+        LongGopNone = 1
+        LowResMpeg1Layer2 = 2
+        Unknown = 3
+
+    class BlockSize(enum.IntEnum):
+        MB2 = 0
+        MB8 = 1
+        MB16 = 2
+        Unknown = 3
+
+    class Metadata(enum.IntEnum):
+        IntraEncodingBitLengthUnknown = 0
+        IntraEncodingBitLength8 = 1
+        IntraEncodingBitLength10 = 2
+        LongGopNone = 3
+        LowResNone = 4
+        Unknown = 5
+
+    class RecordingStatus(enum.IntEnum):
+        NotPresent = 0
+        Reserved = 1
+        InCreation = 2
+        RecordInProgress = 3
+        OnDisk = 4
+        Unknown = 5
+
+    class Type(enum.IntEnum):
+        Intra = 0
+        LongGop = 1
+        LowRes = 2
+        Unknown = 3
+
+    class VideoCompressionInfo(enum.IntEnum):
+        IntraNone = 0
+        IntraDnxHdUnknown = 1
+        IntraDnxHdLowBitrate = 2
+        IntraDnxHdHighBitrate = 3
+        IntraDnxHdHighBitrate10b = 4
+        IntraProResUnknown = 5
+        IntraProResStandardQuality = 6
+        IntraProResHighQuality = 7
+        IntraProResLt = 8
+        LongGopNone = 9
+        LowResNone = 10
+        Unknown = 11
+
+    class VideoCompressionType(enum.IntEnum):
+        IntraMjpegRegular = 0
+        IntraMjpegInverted = 1
+        IntraMpegIField = 2
+        IntraMpegIFrame = 3
+        IntraDnxHd = 4
+        IntraProRes = 5
+        IntraDvcPro100IField = 6
+        IntraDvcPro100IFrame = 7
+        IntraDvcPro50 = 8
+        IntraAvc100IntraIField = 9
+        IntraAvc100IntraIFrame = 10
+        IntraAvc50IntraIField = 11
+        IntraAvc50IntraIFrame = 12
+        IntraXAvc100IField = 13
+        IntraXAvc100IFrame = 14
+        IntraXAvc50IField = 15
+        IntraXAvc50IFrame = 16
+        IntraXAvc300 = 17
+        LongGopXdCam = 18
+        LowResMjpeg = 19
+        LowResH264 = 20
+        Unknown = 21
+
+# Identifiers
+
+class Guid:
+    """A 128-bit identifier, held as 16 bytes in the order of its text form."""
+
+    def __init__(self, data: bytes = ...) -> None:
+        """Without `data`, a fresh random version-4 identifier; with it, all zero then its first 16 bytes."""
+    @staticmethod
+    def empty() -> Guid: ...
+    @staticmethod
+    def parse(text: str) -> Guid:
+        """The 36-character hyphenated form, in either case; the empty Guid for anything else."""
+    @staticmethod
+    def try_parse(text: str) -> Optional[Guid]: ...
+    def compare_to(self, other: Guid) -> int: ...
+    def __bytes__(self) -> bytes: ...
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+    def __lt__(self, other: Guid) -> bool: ...
+    def __le__(self, other: Guid) -> bool: ...
+    def __gt__(self, other: Guid) -> bool: ...
+    def __ge__(self, other: Guid) -> bool: ...
+    def __hash__(self) -> int: ...
+
+class ServerGuid(Guid):
+    """The identity of a server: its type and machine serial."""
+
+    class Type(enum.IntEnum):
+        # None = 0, reached as Enumeration["None"] (None is a keyword)
+        Primary = 1
+        Secondary = 2
+    NO_MACHINE_SERIAL: int
+    def __init__(self, *args: object) -> None:
+        """(), the all-zero identity; (type, machine_serial); or (guid: Guid), its bytes."""
+    @property
+    def server_type(self) -> ServerGuid.Type: ...
+    @property
+    def machine_serial(self) -> int: ...
+
+class ClipGuid(Guid):
+    """The identity of a clip."""
+
+    def __init__(self, data: bytes = ...) -> None: ...
+    @staticmethod
+    def parse(text: str) -> ClipGuid: ...  # type: ignore[override]
+    @property
+    def umid(self) -> str: ...
+
+class ChannelGuid(Guid):
+    """The identity of a channel: its type, index and machine serial."""
+
+    class Type(enum.IntEnum):
+        First = 0
+        Second = 1
+        # None = 2, reached as Enumeration["None"] (None is a keyword)
+    def __init__(self, *args: object) -> None:
+        """(), the all-zero identity; (type, channel_index, machine_serial); or (guid: Guid)."""
+    @staticmethod
+    def parse(text: str) -> ChannelGuid: ...  # type: ignore[override]
+    @property
+    def channel_type(self) -> ChannelGuid.Type: ...
+    @property
+    def channel_index(self) -> int: ...
+    @property
+    def machine_serial(self) -> int: ...
+
+class ServerId:
+    """A server's number: -1 (none) or a positive multiple of 10; ValueError otherwise."""
+
+    def __init__(self, id: int) -> None: ...
+    @staticmethod
+    def none() -> ServerId: ...
+    @property
+    def value(self) -> int: ...
+    def compare_to(self, other: ServerId) -> int: ...
+    def __lt__(self, other: ServerId) -> bool: ...
+    def __le__(self, other: ServerId) -> bool: ...
+    def __gt__(self, other: ServerId) -> bool: ...
+    def __ge__(self, other: ServerId) -> bool: ...
+    def __hash__(self) -> int: ...
+
+class TimelineId:
+    """A timeline: its number (0 to 109) on a server."""
+
+    def __init__(self, number: int = ..., server_id: ServerId = ...) -> None: ...
+    number: int
+    server_id: ServerId
+    def compare_to(self, other: TimelineId) -> int: ...
+    def is_null_or_empty(self) -> bool: ...
+    def __lt__(self, other: TimelineId) -> bool: ...
+    def __le__(self, other: TimelineId) -> bool: ...
+    def __gt__(self, other: TimelineId) -> bool: ...
+    def __ge__(self, other: TimelineId) -> bool: ...
+    def __hash__(self) -> int: ...
+
+class KepId:
+    """A clip's place on a server: page, bank, clip and camera."""
+
+    def __init__(self, *args: object) -> None:
+        """(); (page, bank, clip, camera, server_id); or (position, camera, server_id)."""
+    @staticmethod
+    def empty() -> KepId: ...
+    page: int
+    bank: int
+    clip: int
+    position: int
+    camera: str
+    server_id: ServerId
+    def set_position(self, page: int, bank: int, clip: int) -> None: ...
+    def compare_to(self, other: KepId) -> int: ...
+    def is_null_or_empty(self) -> bool: ...
+    def __lt__(self, other: KepId) -> bool: ...
+    def __le__(self, other: KepId) -> bool: ...
+    def __gt__(self, other: KepId) -> bool: ...
+    def __ge__(self, other: KepId) -> bool: ...
+    def __hash__(self) -> int: ...
+
+class UmId:
+    """A clip's 8-character identity, and whether it was written as UTF-16."""
+
+    def __init__(self, text: str = ..., unicode: bool = False) -> None: ...
+    @staticmethod
+    def virtual() -> UmId: ...
+    @staticmethod
+    def white() -> UmId: ...
+    @staticmethod
+    def black() -> UmId: ...
+    @staticmethod
+    def edit_pattern() -> UmId: ...
+    @staticmethod
+    def empty() -> UmId: ...
+    @property
+    def unicode(self) -> bool: ...
+    @property
+    def edit_number(self) -> int: ...
+    def equals(self, other: UmId) -> bool: ...
+    def compare_to(self, other: UmId) -> int: ...
+    def is_null_or_empty(self) -> bool: ...
+    def is_virtual_clip(self) -> bool: ...
+    def is_white_clip(self) -> bool: ...
+    def is_black_clip(self) -> bool: ...
+    def is_macro_clip(self) -> bool: ...
+    def is_pattern_clip(self) -> bool: ...
+    def __lt__(self, other: UmId) -> bool: ...
+    def __le__(self, other: UmId) -> bool: ...
+    def __gt__(self, other: UmId) -> bool: ...
+    def __ge__(self, other: UmId) -> bool: ...
+    def __hash__(self) -> int: ...
+
+# Timecodes
+
+class Rate:
+    """Samples per second as a fraction, kept as given (50/1 is not 100/2)."""
+
+    def __init__(self, numerator: int, denominator: int) -> None: ...
+    @property
+    def numerator(self) -> int: ...
+    @property
+    def denominator(self) -> int: ...
+
+class VideoRates:
+    """The two rates of the video standards."""
+
+    @staticmethod
+    def rate50() -> Rate: ...
+    @staticmethod
+    def rate60() -> Rate: ...
+
+class TimeCodeFields:
+    """The calendar and clock fields of a timecode."""
+
+    def __init__(self, year: int, month: int, day: int, hour: int, minute: int, second: int, sample: int) -> None: ...
+    year: int
+    month: int
+    day: int
+    hour: int
+    minute: int
+    second: int
+    sample: int
+
+class TimeCode:
+    """A count of samples since 1900-01-01 00:00:00 at a rate."""
+
+    def __init__(self, rate: Rate, total_sample: int, drop: bool = False, flag: int = 0) -> None: ...
+    @staticmethod
+    def parse(text: str, rate: Rate) -> TimeCode:
+        """"YYYY-MM-DD HH:MM:SS:FF" or "HH:MM:SS:FF"; ValueError for other text, IndexError for a field out of range."""
+    @staticmethod
+    def try_parse(text: str, rate: Rate) -> Optional[TimeCode]: ...
+    @property
+    def rate(self) -> Rate: ...
+    @property
+    def total_sample(self) -> int: ...
+    @property
+    def drop_frame(self) -> bool: ...
+    @property
+    def flag(self) -> int: ...
+    @property
+    def fields(self) -> TimeCodeFields:
+        """IndexError for a timecode no date can show."""
+    def time_of_day(self) -> str: ...
+
+class TimeCodeBuilder:
+    """Calendar and clock fields to be checked (IndexError with the library's message) and counted."""
+
+    def __init__(self, *args: object, drop: bool = False, flag: int = 0) -> None:
+        """(year, month, day, hour, minute, second, sample, rate) or (fields, rate)."""
+    @staticmethod
+    def from_time_code(time_code: TimeCode) -> TimeCodeBuilder: ...
+    @staticmethod
+    def try_from_time_code(time_code: TimeCode) -> Optional[TimeCodeBuilder]: ...
+    @property
+    def fields(self) -> TimeCodeFields: ...
+    @property
+    def rate(self) -> Rate: ...
+    @property
+    def drop_frame(self) -> bool: ...
+    @property
+    def flag(self) -> int: ...
+    def is_valid_to_build_with_exception(self) -> bool: ...
+    def build(self) -> TimeCode: ...
+
+# Text
+
+def transcode(data: bytes, source: str, target: str) -> bytes:
+    """`data` from one charset into another; ValueError for an unknown charset name."""
+
+def transcode_strict(data: bytes, source: str, target: str) -> bytes:
+    """As transcode, but ValueError at the first problem, naming its byte offset."""
+
+def charset_names() -> List[str]: ...
+def charset_aliases(name: str) -> List[str]: ...
