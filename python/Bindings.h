@@ -17,6 +17,7 @@ namespace PlurexPython {
 
 namespace py = pybind11;
 
+void BindClips(py::module_& module);
 void BindEnumerations(py::module_& module);
 void BindIdentifiers(py::module_& module);
 void BindText(py::module_& module);

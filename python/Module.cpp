@@ -50,5 +50,6 @@ PYBIND11_MODULE(plurexdata, module) {
     PlurexPython::BindEnumerations(module);
     PlurexPython::BindIdentifiers(module);
     PlurexPython::BindTimeCodes(module);
+    PlurexPython::BindClips(module);
     PlurexPython::BindText(module);
 }

@@ -5,7 +5,7 @@ public name of the module appears here).
 """
 
 import enum
-from typing import List, Optional
+from typing import List, Optional, Tuple
 
 __version__: str
 
@@ -455,6 +455,129 @@ class TimeCodeBuilder:
     def flag(self) -> int: ...
     def is_valid_to_build_with_exception(self) -> bool: ...
     def build(self) -> TimeCode: ...
+
+# Clips
+
+class TextField(enum.IntEnum):
+    Text1 = 0
+    Text2 = 1
+    Text3 = 2
+    Text4 = 3
+    Name = 4
+    VarId = 5
+    Keyword0 = 6
+    Keyword1 = 7
+    Keyword2 = 8
+    Keyword3 = 9
+    Keyword4 = 10
+
+class Clip:
+    """A clip as a server describes it: the fields of its 290-byte record.
+
+    Enumerated fields read as members of their enumeration, or as the plain number where the table
+    names none; they take any 32-bit number. Texts read and write through the library's text calls,
+    8-bit texts in ISO 8859-1 unless a charset is named.
+    """
+
+    RECORD_SIZE: int
+
+    class Essence:
+        """One of a clip's three essences."""
+
+        def __init__(self, type: int = ...) -> None:
+            """Without `type`, all zero; with it, the defaults of that type."""
+        def clear(self, type: int) -> None: ...
+        def set_metadata(self, value: int) -> bool:
+            """False, and nothing changed, for a value the essence's type does not take."""
+        def set_video_compression_type(self, value: int) -> bool: ...
+        def set_audio_compression_type(self, value: int) -> bool: ...
+        def set_video_compression_info(self, value: int) -> bool: ...
+        type: "essences.Type | int"
+        metadata: "essences.Metadata | int"
+        video_compression_type: "essences.VideoCompressionType | int"
+        audio_compression_type: "essences.AudioCompressionType | int"
+        video_compression_info: "essences.VideoCompressionInfo | int"
+        flag: int
+        field2: int
+        field4: int
+        value1: int
+        value2: int
+        value3: int
+        value4: int
+
+    def __init__(self) -> None:
+        """The defaults of a new clip."""
+    @staticmethod
+    def from_bytes(data: bytes, big_endian: bool = False) -> Clip:
+        """The clip of the first 290 bytes of `data`; ValueError for fewer."""
+    def to_bytes(self, big_endian: bool = False) -> bytes: ...
+    @staticmethod
+    def detect_byte_order(data: bytes) -> Optional[bool]:
+        """True for a big-endian record's tag, False for a little-endian one, else None."""
+    def get_text(self, field: int, charset: str = "iso-8859-1") -> str: ...
+    def set_text(self, field: int, text: str, unicode: bool = False, charset: str = "iso-8859-1") -> None:
+        """ValueError with the library's message (the field named first) for a text the field cannot hold."""
+    def get_text_bytes(self, field: int) -> bytes: ...
+    def set_text_bytes(self, field: int, data: bytes, unicode: bool = False) -> None: ...
+    def is_text_utf16(self, field: int) -> bool: ...
+    text1: str
+    text2: str
+    text3: str
+    text4: str
+    name: str
+    var_id: str
+    @property
+    def keywords(self) -> List[str]: ...
+    raw_bytes: bytes
+    is_3d: bool
+    is_dual: bool
+    is_twin_rec: bool
+    is_legacy_timecode_drop: bool
+    attribute1: int
+    attribute2: "ArchiveStatus | int"
+    attribute3: "Camera | int"
+    attribute4: "VideoFormat | int"
+    attribute5: "AlphaArchiveStatus | int"
+    attribute6: "AudioConfiguration | int"
+    attribute7: "TimecodeType | int"
+    attribute8: "UserProtect | int"
+    attribute9: "PrimaryTimecode | int"
+    attribute10: "TrainStatus | int"
+    attribute11: "Rating | int"
+    attribute12: "FillAndKeyStatus | int"
+    video_standard: "VideoStandard | int"
+    attribute13: "WideColorGamut | int"
+    attribute14: "HdrProfile | int"
+    attribute15: "AfdAspectRatio | int"
+    attribute16: "CodedFrameAspectRatio | int"
+    attribute17: "UhdDivisionMode | int"
+    attribute18: "SourceEngine | int"
+    in_position: int
+    short_in_position: int
+    short_out_position: int
+    out_position: int
+    value1: int
+    short_value1: int
+    value2: int
+    value3: int
+    short_value2: int
+    value4: int
+    byte_value: int
+    value5: int
+    value64: int
+    @property
+    def rate(self) -> Rate: ...
+    in_bound_tod_timecode: TimeCode
+    in_bound_user_timecode: TimeCode
+    def set_short_in_bound_tod_timecode(self, time_code: TimeCode) -> None: ...
+    def set_short_out_bound_tod_timecode(self, time_code: TimeCode) -> None: ...
+    def set_out_bound_tod_timecode(self, time_code: TimeCode) -> None: ...
+    def set_short_in_bound_user_timecode(self, time_code: TimeCode) -> None: ...
+    def set_short_out_bound_user_timecode(self, time_code: TimeCode) -> None: ...
+    def set_out_bound_user_timecode(self, time_code: TimeCode) -> None: ...
+    @property
+    def essences(self) -> Tuple[Clip.Essence, Clip.Essence, Clip.Essence]:
+        """The clip's own three essences: changing one changes the clip."""
 
 # Text
 
