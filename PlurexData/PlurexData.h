@@ -45,6 +45,7 @@
 #include "PlurexData/data/TrainStatus.h"
 #include "PlurexData/data/UhdDivisionMode.h"
 #include "PlurexData/data/UserProtect.h"
+#include "PlurexData/data/Value.h"
 #include "PlurexData/data/VideoFormat.h"
 #include "PlurexData/data/VideoStandard.h"
 #include "PlurexData/data/WideColorGamut.h"
