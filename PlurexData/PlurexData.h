@@ -54,6 +54,7 @@
 #include "PlurexData/data/clips/AudioCompressionType.h"
 #include "PlurexData/data/clips/BlockSize.h"
 #include "PlurexData/data/clips/Clip.h"
+#include "PlurexData/data/clips/ClipValue.h"
 #include "PlurexData/data/clips/Guid.h"
 #include "PlurexData/data/clips/KepId.h"
 #include "PlurexData/data/clips/Metadata.h"
