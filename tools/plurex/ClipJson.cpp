@@ -1,259 +1,116 @@
-// The clip as JSON and rows: the form clip new, decode and encode share (see ClipJson.h).
+// The clip as JSON and rows: the form clip new, decode and encode share (see ClipJson.h). The library
+// maps the clip to a value tree and back (Clips::ClipToValue, ClipFromValue); here that tree meets
+// nlohmann-json, and the document's own concerns stay: syntax, size and nesting, the "record" member.
 #include "ClipJson.h"
-#include "HexDump.h"
 
 #include "PlurexData/PlurexData.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <limits>
 #include <optional>
-#include <set>
 #include <stdexcept>
 #include <string>
-#include <type_traits>
 #include <utility>
-#include <vector>
 
 namespace PlurexTool {
 
 namespace {
 
 namespace Clips = Korv::Plurex::Data::Clips;
-namespace Essences = Korv::Plurex::Data::Clips::Essences;
 using Clips::Clip;
 using Clips::Serializer;
+using Korv::Plurex::Data::Value;
 namespace Unicode = Korv::Plurex::Unicode;
-using Korv::TimePoints::Rate;
 using Korv::TimePoints::TimeCode;
 using Korv::TimePoints::TimeCodeBuilder;
-using Korv::TimePoints::VideoRates;
 // Fields print in the clip's order.
 using json = nlohmann::ordered_json;
 
-// ---- bytes and text -------------------------------------------------------------------------------
+// ---- between the value tree and JSON ---------------------------------------------------------------
 
-// Text from the input as JSON writes it, without the quotes: control characters escaped, so that a
-// message stays on one line.
-std::string Shown(const std::string& text) {
-    const std::string quoted = json(text).dump(-1, ' ', false, json::error_handler_t::replace);
-    return quoted.substr(1, quoted.size() - 2);
+json ToJson(const Value& value) {
+    switch (value.GetKind()) {
+        case Value::Kind::Null:
+            return nullptr;
+        case Value::Kind::Bool:
+            return value.AsBool();
+        case Value::Kind::Int:
+            return value.AsInt64();
+        case Value::Kind::UInt:
+            return value.AsUInt64();
+        case Value::Kind::Double:
+            return value.AsDouble();
+        case Value::Kind::String:
+            return value.AsString();
+        case Value::Kind::Array: {
+            json out = json::array();
+            for (const Value& item : value.Items()) {
+                out.push_back(ToJson(item));
+            }
+            return out;
+        }
+        case Value::Kind::Object: {
+            json out = json::object();
+            for (const auto& [key, member] : value.Members()) {
+                out[key] = ToJson(member);
+            }
+            return out;
+        }
+    }
+    return nullptr;
 }
 
-// Hex digits are text only: a number's digits would read as bytes (1234 as 12 34), and any other value
-// has no digits at all.
-std::vector<unsigned char> FromHex(const json& value, std::size_t size, const std::string& field) {
-    if (!value.is_string()) {
-        throw Failure(field + ": hexadecimal text expected");
+// The value of a document; an object's member `skipped` is left out (the top level's "record", read
+// here).
+Value FromJson(const json& value, const char* skipped = nullptr) {
+    switch (value.type()) {
+        case json::value_t::boolean:
+            return value.get<bool>();
+        case json::value_t::number_integer:
+            return value.get<std::int64_t>();
+        case json::value_t::number_unsigned:
+            return value.get<std::uint64_t>();
+        case json::value_t::number_float:
+            return value.get<double>();
+        case json::value_t::string:
+            return value.get_ref<const std::string&>();
+        case json::value_t::array: {
+            Value out = Value::Array();
+            for (const json& item : value) {
+                out.Append(FromJson(item));
+            }
+            return out;
+        }
+        case json::value_t::object: {
+            Value out = Value::Object();
+            for (const auto& item : value.items()) {
+                if (skipped == nullptr || item.key() != skipped) {
+                    out.Set(item.key(), FromJson(item.value()));
+                }
+            }
+            return out;
+        }
+        default:  // null, and binary, which parsing never makes
+            return nullptr;
     }
-    const std::string& text = value.get_ref<const std::string&>();
-    const auto digit = [&](char c) {
-        if (c >= '0' && c <= '9')
-            return c - '0';
-        if (c >= 'a' && c <= 'f')
-            return c - 'a' + 10;
-        if (c >= 'A' && c <= 'F')
-            return c - 'A' + 10;
-        throw Failure(field + ": not hexadecimal: " + Shown(text));
-    };
-    if (text.size() != 2 * size) {
-        throw Failure(field + ": " + std::to_string(size) + " bytes expected in hex, got \"" + Shown(text) +
-                      "\"");
-    }
-    std::vector<unsigned char> bytes(size);
-    for (std::size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<unsigned char>(digit(text[2 * i]) * 16 + digit(text[2 * i + 1]));
-    }
-    return bytes;
 }
 
-Clips::TextField KeywordField(std::size_t k) {
-    return static_cast<Clips::TextField>(static_cast<std::size_t>(Clips::TextField::Keyword0) + k);
-}
+// ---- rows ------------------------------------------------------------------------------------------
 
-// The text as UTF-8 and its flag, with "hex" added when writing the text back would not give the stored
-// bytes (a byte after the first NUL, a lone surrogate).
-json TextJson(const Clip& clip, Clips::TextField field, Unicode::Charset charset) {
-    const bool unicode = Clips::IsTextUtf16(clip, field);
-    const std::string stored = Clips::GetTextBytes(clip, field);
-    const std::string text = Clips::GetTextUtf8(clip, field, charset);
-    json out{{"text", text}};
-    if (field >= Clips::TextField::Name) {  // texts 1 to 4 have no flag
-        out["unicode"] = unicode;
+// A text object of the clip's value as a row: the text, its form, and the stored bytes when given.
+std::string TextRow(const Value& text) {
+    std::string row = "\"" + text.Find("text")->AsString() + "\"";
+    if (const Value* unicode = text.Find("unicode")) {
+        row += unicode->AsBool() ? " (UTF-16)" : " (8-bit)";
     }
-    Clip rewritten = clip;
-    bool same = false;
-    try {
-        Clips::SetTextUtf8(rewritten, field, text, unicode, charset);
-        same = Clips::GetTextBytes(rewritten, field) == stored;
-    } catch (const std::invalid_argument&) {
-    }
-    if (!same) {
-        out["hex"] = ToHex(reinterpret_cast<const unsigned char*>(stored.data()), stored.size());
-    }
-    return out;
-}
-
-std::string TextRow(const Clip& clip, Clips::TextField field, Unicode::Charset charset) {
-    const json text = TextJson(clip, field, charset);
-    std::string row = "\"" + text["text"].get<std::string>() + "\"";
-    if (text.contains("unicode")) {
-        row += text["unicode"].get<bool>() ? " (UTF-16)" : " (8-bit)";
-    }
-    if (text.contains("hex")) {
-        row += " hex " + text["hex"].get<std::string>();
+    if (const Value* hex = text.Find("hex")) {
+        row += " hex " + hex->AsString();
     }
     return row;
-}
-
-// ---- reading JSON ------------------------------------------------------------------------------
-
-// The members of a JSON object, each taken once; whatever is left is an unknown field.
-class Fields {
-public:
-    Fields(const json& object, std::string where) : object_(object), where_(std::move(where)) {
-        if (!object_.is_object()) {
-            throw Failure(Name("") + "an object expected");
-        }
-    }
-
-    const json* Take(const std::string& key) {
-        taken_.insert(key);
-        const auto found = object_.find(key);
-        return found == object_.end() ? nullptr : &*found;
-    }
-
-    std::string Name(const std::string& key) const {
-        return where_.empty() ? key : key.empty() ? where_ + ": " : where_ + "." + key;
-    }
-
-    void CheckAllTaken() const {
-        for (const auto& item : object_.items()) {
-            if (taken_.count(item.key()) == 0) {
-                throw Failure("unknown field: " + Name(Shown(item.key())));
-            }
-        }
-    }
-
-private:
-    const json& object_;
-    std::string where_;
-    std::set<std::string> taken_;
-};
-
-long long Integer(const json& value, long long low, long long high, const std::string& field) {
-    if (!value.is_number_integer()) {
-        throw Failure(field + ": an integer expected");
-    }
-    long long number = 0;
-    if (value.is_number_unsigned()) {
-        const auto unsignedNumber = value.get<unsigned long long>();
-        if (unsignedNumber > static_cast<unsigned long long>(high)) {
-            throw Failure(field + ": " + value.dump() + " is out of range");
-        }
-        number = static_cast<long long>(unsignedNumber);
-    } else {
-        number = value.get<long long>();
-    }
-    if (number < low || number > high) {
-        throw Failure(field + ": " + value.dump() + " is out of range");
-    }
-    return number;
-}
-
-template <class T>
-void ReadInteger(Fields& fields, const std::string& key, T& target) {
-    if (const json* value = fields.Take(key)) {
-        target = static_cast<T>(
-            Integer(*value, std::numeric_limits<T>::min(), std::numeric_limits<T>::max(), fields.Name(key)));
-    }
-}
-
-void ReadBool(Fields& fields, const std::string& key, bool& target) {
-    if (const json* value = fields.Take(key)) {
-        if (!value->is_boolean()) {
-            throw Failure(fields.Name(key) + ": true or false expected");
-        }
-        target = value->get<bool>();
-    }
-}
-
-// ---- enumerations ------------------------------------------------------------------------------
-
-// An enumeration as its name when the name reads back to the value, else as its number.
-template <class E, class Parse>
-json EnumJson(E value, Parse parse) {
-    const std::string& name = ToString(value);
-    if (parse(name) == value) {
-        return name;
-    }
-    return static_cast<std::int32_t>(value);
 }
 
 template <class E>
 std::string EnumRow(E value, const char* type) {
     return ToString(value) + " (" + type + " " + std::to_string(static_cast<std::int32_t>(value)) + ")";
-}
-
-template <class E, class Parse>
-E EnumFrom(const json& value, Parse parse, const std::string& field) {
-    if (value.is_string()) {
-        const std::string name = value.get<std::string>();
-        const E parsed = parse(name);
-        if (ToString(parsed) != name) {
-            throw Failure(field + ": unknown name " + Shown(name));
-        }
-        return parsed;
-    }
-    return static_cast<E>(Integer(value, INT32_MIN, INT32_MAX, field));
-}
-
-// Every enumerated field of the clip, with its JSON key, its row label and type name.
-template <class Visit>
-void VisitAttributes(Clip& clip, Visit&& visit) {
-    visit("attribute2", clip.attribute2, "ArchiveStatus", Clips::ToArchiveStatus);
-    visit("attribute3", clip.attribute3, "Camera", Clips::ToCamera);
-    visit("attribute4", clip.attribute4, "VideoFormat", Clips::ToVideoFormat);
-    visit("attribute5", clip.attribute5, "AlphaArchiveStatus", Clips::ToAlphaArchiveStatus);
-    visit("attribute6", clip.attribute6, "AudioConfiguration", Clips::ToAudioConfiguration);
-    visit("attribute7", clip.attribute7, "TimecodeType", Clips::ToTimecodeType);
-    visit("attribute8", clip.attribute8, "UserProtect", Clips::ToUserProtect);
-    visit("attribute9", clip.attribute9, "PrimaryTimecode", Clips::ToPrimaryTimecode);
-    visit("attribute10", clip.attribute10, "TrainStatus", Clips::ToTrainStatus);
-    visit("attribute11", clip.attribute11, "Rating", Clips::ToRating);
-    visit("attribute12", clip.attribute12, "FillAndKeyStatus", Clips::ToFillAndKeyStatus);
-    visit("attribute13", clip.attribute13, "WideColorGamut", Clips::ToWideColorGamut);
-    visit("attribute14", clip.attribute14, "HdrProfile", Clips::ToHdrProfile);
-    visit("attribute15", clip.attribute15, "AfdAspectRatio", Clips::ToAfdAspectRatio);
-    visit("attribute16", clip.attribute16, "CodedFrameAspectRatio", Clips::ToCodedFrameAspectRatio);
-    visit("attribute17", clip.attribute17, "UhdDivisionMode", Clips::ToUhdDivisionMode);
-    visit("attribute18", clip.attribute18, "SourceEngine", Clips::ToSourceEngine);
-}
-
-template <class Visit>
-void VisitEssenceEnums(Clip::Essence& essence, Visit&& visit) {
-    visit("metadata", "metadata", essence.metadata, "Metadata", Essences::ToMetadata,
-          [&](Essences::Metadata v) { return essence.Metadata(v); });
-    visit("videoCompressionType", "video compression type", essence.videoCompressionType,
-          "VideoCompressionType", Essences::ToVideoCompressionType,
-          [&](Essences::VideoCompressionType v) { return essence.VideoCompressionType(v); });
-    visit("audioCompressionType", "audio compression type", essence.audioCompressionType,
-          "AudioCompressionType", Essences::ToAudioCompressionType,
-          [&](Essences::AudioCompressionType v) { return essence.AudioCompressionType(v); });
-    visit("videoCompressionInfo", "video compression info", essence.videoCompressionInfo,
-          "VideoCompressionInfo", Essences::ToVideoCompressionInfo,
-          [&](Essences::VideoCompressionInfo v) { return essence.VideoCompressionInfo(v); });
-}
-
-// ---- timecodes -------------------------------------------------------------------------------------
-
-json TimecodeJson(const TimeCode& timeCode) {
-    json out{{"rate", timeCode.GetRate().GetNumerator()},
-             {"drop", timeCode.IsDropFrame()},
-             {"count", timeCode.GetTotalSample()}};
-    out.update(TimecodeDateJson(timeCode));
-    return out;
 }
 
 std::string TimecodeRow(const TimeCode& timeCode) {
@@ -267,132 +124,45 @@ std::string TimecodeRow(const TimeCode& timeCode) {
     return row + (timeCode.IsDropFrame() ? " drop-frame" : "");
 }
 
-// A timecode at the clip's rate: from date, time and frame through the builder, or from the count;
-// given both, they must agree.
-TimeCode TimecodeFrom(const json& value, const Rate& clipRate, const std::string& where) {
-    Fields fields(value, where);
-    long long rate = clipRate.GetNumerator();
-    bool drop = false;
-    ReadInteger(fields, "rate", rate);
-    ReadBool(fields, "drop", drop);
-    const json* count = fields.Take("count");
-    const json* date = fields.Take("date");
-    const json* time = fields.Take("time");
-    const json* frame = fields.Take("frame");
-    fields.CheckAllTaken();
-    if (rate != 50 && rate != 60) {
-        throw Failure(fields.Name("rate") + ": 50 or 60 expected");
-    }
-    const Rate& timeRate = rate == 50 ? VideoRates::Rate50() : VideoRates::Rate60();
-    if (date == nullptr && time == nullptr && frame == nullptr) {
-        if (count == nullptr) {
-            throw Failure(where + ": a count, or a date, time and frame expected");
-        }
-        return TimeCode(timeRate, Integer(*count, 0, INT64_MAX, fields.Name("count")), drop);
-    }
-    if (date == nullptr || !date->is_string()) {
-        throw Failure(fields.Name("date") + ": YYYY-MM-DD expected");
-    }
-    if (time == nullptr || !time->is_string()) {
-        throw Failure(fields.Name("time") + ": HH:MM:SS expected");
-    }
-    if (frame == nullptr) {
-        throw Failure(fields.Name("frame") + ": a frame number expected");
-    }
-    // The builder would take a negative frame as counting back into the previous second; no timecode
-    // is written so.
-    const auto frameNumber = static_cast<int>(Integer(*frame, 0, INT32_MAX, fields.Name("frame")));
-    char frameText[16];
-    std::snprintf(frameText, sizeof frameText, "%c%02d", drop ? ';' : ':', frameNumber);
-    const std::string text = date->get<std::string>() + " " + time->get<std::string>() + frameText;
-    TimeCode built = TimeCode(timeRate, 0);
-    try {
-        built = TimeCode::Parse(text, timeRate);
-    } catch (const std::invalid_argument&) {
-        throw Failure(where + ": date YYYY-MM-DD and time HH:MM:SS expected, got \"" + Shown(text) + "\"");
-    }
-    if (count != nullptr && Integer(*count, 0, INT64_MAX, fields.Name("count")) != built.GetTotalSample()) {
-        throw Failure(where + ": count " + count->dump() + " is not " + Shown(text) + " (count " +
-                      std::to_string(built.GetTotalSample()) + ")");
-    }
-    return built;
-}
-
-// ---- the clip as JSON and rows -------------------------------------------------------------------
-
-json EssenceJson(Clip::Essence essence) {
-    json out{{"type", EnumJson(essence.type, Essences::ToType)},
-             {"flag", essence.flag},
-             {"field2", essence.field2},
-             {"field4", essence.field4}};
-    VisitEssenceEnums(essence, [&](const char* key, const char*, auto value, const char*, auto parse, auto) {
-        out[key] = EnumJson(value, parse);
-    });
-    out["values"] = {essence.value1, essence.value2, essence.value3, essence.value4};
-    return out;
-}
-
-json ClipJson(Clip clip, Unicode::Charset charset) {
-    json out;
-    for (int i = 0; i < 4; ++i) {
-        out["text" + std::to_string(i + 1)] = TextJson(clip, static_cast<Clips::TextField>(i), charset);
-    }
-    out["name"] = TextJson(clip, Clips::TextField::Name, charset);
-    out["varId"] = TextJson(clip, Clips::TextField::VarId, charset);
-    for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-        out["keywords"].push_back(TextJson(clip, KeywordField(k), charset));
-    }
-    out["rawBytes"] = ToHex(clip.rawBytes, sizeof clip.rawBytes);
-    out["is3D"] = clip.is3D;
-    out["isDual"] = clip.isDual;
-    out["isTwinRec"] = clip.isTwinRec;
-    out["isLegacyTimecodeDrop"] = clip.isLegacyTimecodeDrop;
-    out["attribute1"] = clip.attribute1;
-    VisitAttributes(clip, [&](const char* key, auto value, const char*, auto parse) {
-        out[key] = EnumJson(value, parse);
-    });
-    out["videoStandard"] = EnumJson(clip.videoStandard, Clips::ToVideoStandard);
-    out["inPosition"] = clip.inPosition;
-    out["shortInPosition"] = clip.shortInPosition;
-    out["shortOutPosition"] = clip.shortOutPosition;
-    out["outPosition"] = clip.outPosition;
-    out["value1"] = clip.value1;
-    out["shortValue1"] = clip.shortValue1;
-    out["value2"] = clip.value2;
-    out["value3"] = clip.value3;
-    out["shortValue2"] = clip.shortValue2;
-    out["value4"] = clip.value4;
-    out["byteValue"] = clip.byteValue;
-    out["value5"] = clip.value5;
-    out["inBoundTodTimecode"] = TimecodeJson(clip.inBoundTodTimecode);
-    out["inBoundUserTimecode"] = TimecodeJson(clip.inBoundUserTimecode);
-    out["value64"] = clip.value64;
-    for (const auto& essence : clip.essences) {
-        out["essences"].push_back(EssenceJson(essence));
-    }
-    return out;
-}
-
-Rows ClipRows(Clip clip, Unicode::Charset charset) {
+Rows ClipRows(const Clip& clip, Unicode::Charset charset) {
+    const Value value = Clips::ClipToValue(clip, charset);
     Rows rows;
     for (int i = 0; i < 4; ++i) {
-        rows.emplace_back("text " + std::to_string(i + 1),
-                          TextRow(clip, static_cast<Clips::TextField>(i), charset));
+        const std::string number = std::to_string(i + 1);
+        rows.emplace_back("text " + number, TextRow(*value.Find("text" + number)));
     }
-    rows.emplace_back("name", TextRow(clip, Clips::TextField::Name, charset));
-    rows.emplace_back("var-id", TextRow(clip, Clips::TextField::VarId, charset));
-    for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-        rows.emplace_back("keyword " + std::to_string(k), TextRow(clip, KeywordField(k), charset));
+    rows.emplace_back("name", TextRow(*value.Find("name")));
+    rows.emplace_back("var-id", TextRow(*value.Find("varId")));
+    const auto& keywords = value.Find("keywords")->Items();
+    for (std::size_t k = 0; k < keywords.size(); ++k) {
+        rows.emplace_back("keyword " + std::to_string(k), TextRow(keywords[k]));
     }
-    rows.emplace_back("raw bytes", ToHex(clip.rawBytes, sizeof clip.rawBytes));
+    rows.emplace_back("raw bytes", value.Find("rawBytes")->AsString());
     rows.emplace_back("3D", YesNo(clip.is3D));
     rows.emplace_back("dual", YesNo(clip.isDual));
     rows.emplace_back("twin-rec", YesNo(clip.isTwinRec));
     rows.emplace_back("legacy drop", YesNo(clip.isLegacyTimecodeDrop));
     rows.emplace_back("attribute 1", std::to_string(clip.attribute1));
-    VisitAttributes(clip, [&](const char* key, auto value, const char* type, auto) {
-        rows.emplace_back("attribute " + std::string(key + 9), EnumRow(value, type));
-    });
+    const auto attribute = [&](int number, auto field, const char* type) {
+        rows.emplace_back("attribute " + std::to_string(number), EnumRow(field, type));
+    };
+    attribute(2, clip.attribute2, "ArchiveStatus");
+    attribute(3, clip.attribute3, "Camera");
+    attribute(4, clip.attribute4, "VideoFormat");
+    attribute(5, clip.attribute5, "AlphaArchiveStatus");
+    attribute(6, clip.attribute6, "AudioConfiguration");
+    attribute(7, clip.attribute7, "TimecodeType");
+    attribute(8, clip.attribute8, "UserProtect");
+    attribute(9, clip.attribute9, "PrimaryTimecode");
+    attribute(10, clip.attribute10, "TrainStatus");
+    attribute(11, clip.attribute11, "Rating");
+    attribute(12, clip.attribute12, "FillAndKeyStatus");
+    attribute(13, clip.attribute13, "WideColorGamut");
+    attribute(14, clip.attribute14, "HdrProfile");
+    attribute(15, clip.attribute15, "AfdAspectRatio");
+    attribute(16, clip.attribute16, "CodedFrameAspectRatio");
+    attribute(17, clip.attribute17, "UhdDivisionMode");
+    attribute(18, clip.attribute18, "SourceEngine");
     rows.emplace_back("video standard", EnumRow(clip.videoStandard, "VideoStandard"));
     rows.emplace_back("in position", std::to_string(clip.inPosition));
     rows.emplace_back("short-in position", std::to_string(clip.shortInPosition));
@@ -410,14 +180,19 @@ Rows ClipRows(Clip clip, Unicode::Charset charset) {
     rows.emplace_back("user timecode", TimecodeRow(clip.inBoundUserTimecode));
     rows.emplace_back("64-bit value", std::to_string(clip.value64));
     for (int i = 0; i < 3; ++i) {
-        Clip::Essence& essence = clip.essences[i];
+        const Clip::Essence& essence = clip.essences[i];
         const std::string label = "essence " + std::to_string(i + 1) + " ";
         rows.emplace_back(label + "type", EnumRow(essence.type, "Type"));
         rows.emplace_back(label + "flag", std::to_string(essence.flag));
         rows.emplace_back(label + "field 2", std::to_string(essence.field2));
         rows.emplace_back(label + "field 4", std::to_string(essence.field4));
-        VisitEssenceEnums(essence, [&](const char*, const char* name, auto value, const char* type, auto,
-                                       auto) { rows.emplace_back(label + name, EnumRow(value, type)); });
+        rows.emplace_back(label + "metadata", EnumRow(essence.metadata, "Metadata"));
+        rows.emplace_back(label + "video compression type",
+                          EnumRow(essence.videoCompressionType, "VideoCompressionType"));
+        rows.emplace_back(label + "audio compression type",
+                          EnumRow(essence.audioCompressionType, "AudioCompressionType"));
+        rows.emplace_back(label + "video compression info",
+                          EnumRow(essence.videoCompressionInfo, "VideoCompressionInfo"));
         rows.emplace_back(label + "values",
                           std::to_string(essence.value1) + " " + std::to_string(essence.value2) + " " +
                               std::to_string(essence.value3) + " " + std::to_string(essence.value4));
@@ -425,158 +200,35 @@ Rows ClipRows(Clip clip, Unicode::Charset charset) {
     return rows;
 }
 
-// A text object into its field: {"text"} (8-bit, or UTF-16 when "unicode" is set) through the library,
-// or the stored bytes as "hex". Texts 1 to 4 have no "unicode".
-void ReadText(const json* value, Clip& clip, Clips::TextField field, Unicode::Charset charset) {
-    if (value == nullptr) {
-        return;
-    }
-    Fields text(*value, Clips::ToString(field));
-    bool unicode = false;
-    if (field >= Clips::TextField::Name) {  // texts 1 to 4 have no flag
-        ReadBool(text, "unicode", unicode);
-    }
-    const json* readable = text.Take("text");
-    const json* hex = text.Take("hex");
-    text.CheckAllTaken();
-    if (hex != nullptr) {
-        const std::size_t size = Clips::GetTextBytes(clip, field).size();
-        const std::vector<unsigned char> bytes = FromHex(*hex, size, text.Name("hex"));
-        Clips::SetTextBytes(clip, field, std::string(bytes.begin(), bytes.end()), unicode);
-        return;
-    }
-    if (readable == nullptr || !readable->is_string()) {
-        throw Failure(text.Name("text") + ": a text expected");
-    }
-    Clips::SetTextUtf8(clip, field, readable->get_ref<const std::string&>(), unicode, charset);
+// ---- reading JSON ------------------------------------------------------------------------------
+
+// A key from the input as JSON writes it, without the quotes: control characters escaped, so that a
+// message stays on one line.
+std::string Shown(const std::string& text) {
+    const std::string quoted = json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+    return quoted.substr(1, quoted.size() - 2);
 }
 
-Clip::Essence EssenceFrom(const json& value, Clips::Essences::Type type, const std::string& where) {
-    Clip::Essence essence(type);
-    Fields fields(value, where);
-    if (const json* given = fields.Take("type")) {
-        if (EnumFrom<Essences::Type>(*given, Essences::ToType, fields.Name("type")) != type) {
-            throw Failure(fields.Name("type") + ": the slot makes it " + ToString(type));
-        }
-    }
-    ReadInteger(fields, "flag", essence.flag);
-    ReadInteger(fields, "field2", essence.field2);
-    ReadInteger(fields, "field4", essence.field4);
-    VisitEssenceEnums(essence, [&](const char* key, const char*, auto, const char*, auto parse, auto set) {
-        if (const json* given = fields.Take(key)) {
-            using E = decltype(parse(std::string()));
-            const E wanted = EnumFrom<E>(*given, parse, fields.Name(key));
-            if (!set(wanted)) {
-                throw Failure(fields.Name(key) + ": " + ToString(wanted) + " (" +
-                              std::to_string(static_cast<std::int32_t>(wanted)) + ") does not suit a " +
-                              ToString(type) + " essence");
-            }
-        }
-    });
-    if (const json* values = fields.Take("values")) {
-        if (!values->is_array() || values->size() != 4) {
-            throw Failure(fields.Name("values") + ": four integers expected");
-        }
-        std::int32_t* targets[] = {&essence.value1, &essence.value2, &essence.value3, &essence.value4};
-        for (std::size_t i = 0; i < 4; ++i) {
-            *targets[i] = static_cast<std::int32_t>(Integer(
-                (*values)[i], INT32_MIN, INT32_MAX, fields.Name("values") + "[" + std::to_string(i) + "]"));
-        }
-    }
-    fields.CheckAllTaken();
-    return essence;
-}
-
-// The clip the JSON describes, through the library's own setters: the standard first, then the
-// timecodes at its rate.
 // The record's byte order, from the "record" member decode --json writes; its other members (index,
 // offset, tag) say where the record came from and are not needed to write it.
 std::optional<bool> RecordFrom(const json& value) {
-    Fields fields(value, "record");
-    fields.Take("index");
-    fields.Take("offset");
-    fields.Take("tag");
-    const json* order = fields.Take("byteOrder");
-    fields.CheckAllTaken();
-    if (order == nullptr) {
+    if (!value.is_object()) {
+        throw Failure("record: an object expected");
+    }
+    for (const auto& item : value.items()) {
+        if (item.key() != "index" && item.key() != "offset" && item.key() != "tag" &&
+            item.key() != "byteOrder") {
+            throw Failure("unknown field: record." + Shown(item.key()));
+        }
+    }
+    const auto order = value.find("byteOrder");
+    if (order == value.end()) {
         return std::nullopt;
     }
     if (*order == "little-endian" || *order == "big-endian") {
         return *order == "big-endian";
     }
-    throw Failure(fields.Name("byteOrder") + ": \"little-endian\" or \"big-endian\" expected");
-}
-
-ClipDocument ClipFrom(const json& document, Unicode::Charset charset) {
-    ClipDocument result;
-    Clip& clip = result.clip;
-    Fields fields(document, "");
-    if (const json* record = fields.Take("record")) {
-        result.bigEndian = RecordFrom(*record);
-    }
-    for (int i = 0; i < 4; ++i) {
-        ReadText(fields.Take("text" + std::to_string(i + 1)), clip, static_cast<Clips::TextField>(i), charset);
-    }
-    ReadText(fields.Take("name"), clip, Clips::TextField::Name, charset);
-    ReadText(fields.Take("varId"), clip, Clips::TextField::VarId, charset);
-    if (const json* keywords = fields.Take("keywords")) {
-        if (!keywords->is_array() || keywords->size() != Clip::KeywordCount) {
-            throw Failure("keywords: five texts expected");
-        }
-        for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-            ReadText(&(*keywords)[k], clip, KeywordField(k), charset);
-        }
-    }
-    if (const json* raw = fields.Take("rawBytes")) {
-        const auto bytes = FromHex(*raw, sizeof clip.rawBytes, "rawBytes");
-        std::copy(bytes.begin(), bytes.end(), clip.rawBytes);
-    }
-    ReadBool(fields, "is3D", clip.is3D);
-    ReadBool(fields, "isDual", clip.isDual);
-    ReadBool(fields, "isTwinRec", clip.isTwinRec);
-    bool legacyDrop = false;
-    ReadBool(fields, "isLegacyTimecodeDrop", legacyDrop);
-    ReadInteger(fields, "attribute1", clip.attribute1);
-    VisitAttributes(clip, [&](const char* key, auto& target, const char*, auto parse) {
-        if (const json* given = fields.Take(key)) {
-            target = EnumFrom<std::decay_t<decltype(target)>>(*given, parse, key);
-        }
-    });
-    if (const json* standard = fields.Take("videoStandard")) {
-        clip.VideoStandard(
-            EnumFrom<Clips::VideoStandard>(*standard, Clips::ToVideoStandard, "videoStandard"));
-    }
-    clip.isLegacyTimecodeDrop = legacyDrop;
-    ReadInteger(fields, "inPosition", clip.inPosition);
-    ReadInteger(fields, "shortInPosition", clip.shortInPosition);
-    ReadInteger(fields, "shortOutPosition", clip.shortOutPosition);
-    ReadInteger(fields, "outPosition", clip.outPosition);
-    ReadInteger(fields, "value1", clip.value1);
-    ReadInteger(fields, "shortValue1", clip.shortValue1);
-    ReadInteger(fields, "value2", clip.value2);
-    ReadInteger(fields, "value3", clip.value3);
-    ReadInteger(fields, "shortValue2", clip.shortValue2);
-    ReadInteger(fields, "value4", clip.value4);
-    ReadInteger(fields, "byteValue", clip.byteValue);
-    ReadInteger(fields, "value5", clip.value5);
-    if (const json* tod = fields.Take("inBoundTodTimecode")) {
-        clip.InBoundTodTimecode(TimecodeFrom(*tod, clip.GetRate(), "inBoundTodTimecode"));
-    }
-    if (const json* user = fields.Take("inBoundUserTimecode")) {
-        clip.InBoundUserTimecode(TimecodeFrom(*user, clip.GetRate(), "inBoundUserTimecode"));
-    }
-    ReadInteger(fields, "value64", clip.value64);
-    if (const json* essences = fields.Take("essences")) {
-        if (!essences->is_array() || essences->size() != 3) {
-            throw Failure("essences: three essences expected");
-        }
-        for (std::size_t i = 0; i < 3; ++i) {
-            clip.essences[i] =
-                EssenceFrom((*essences)[i], clip.essences[i].type, "essences[" + std::to_string(i) + "]");
-        }
-    }
-    fields.CheckAllTaken();
-    return result;
+    throw Failure("record.byteOrder: \"little-endian\" or \"big-endian\" expected");
 }
 
 // The line and column (from 1) of byte `at` of `text`, as the parser gives them.
@@ -641,11 +293,11 @@ std::string WhatWentWrong(const json::exception& error) {
 
 nlohmann::ordered_json TimecodeDateJson(const TimeCode& timeCode) {
     json out = json::object();
-    if (const auto split = TimeCodeBuilder::TryFromTimeCode(timeCode)) {
-        const std::string text = timeCode.ToString();  // "YYYY-MM-DD HH:MM:SS:FF"
-        out["date"] = text.substr(0, 10);
-        out["time"] = text.substr(11, 8);
-        out["frame"] = split->GetFields().sample;
+    const Value value = Clips::TimecodeToValue(timeCode);
+    for (const auto& [key, member] : value.Members()) {
+        if (key == "date" || key == "time" || key == "frame") {
+            out[key] = ToJson(member);
+        }
     }
     return out;
 }
@@ -657,7 +309,7 @@ Clip DecodeRecord(const unsigned char* record, bool bigEndian) {
 }
 
 nlohmann::ordered_json ClipToJson(const Clip& clip, Unicode::Charset charset) {
-    return ClipJson(clip, charset);
+    return ToJson(Clips::ClipToValue(clip, charset));
 }
 
 Rows ClipToRows(const Clip& clip, Unicode::Charset charset) {
@@ -666,8 +318,14 @@ Rows ClipToRows(const Clip& clip, Unicode::Charset charset) {
 
 ClipDocument ClipFromJson(const nlohmann::ordered_json& document, Unicode::Charset charset) {
     try {
-        return ClipFrom(document, charset);
-    } catch (const std::invalid_argument& error) {  // the clip's own refusals
+        ClipDocument result;
+        // The record comes first, as decode --json writes it; the clip reads the other members.
+        if (document.is_object() && document.contains("record")) {
+            result.bigEndian = RecordFrom(document["record"]);
+        }
+        result.clip = Clips::ClipFromValue(FromJson(document, "record"), charset);
+        return result;
+    } catch (const std::invalid_argument& error) {  // the clip's refusals, a field's path in front
         throw Failure(error.what());
     } catch (const std::out_of_range& error) {  // the timecode builder's
         throw Failure(error.what());

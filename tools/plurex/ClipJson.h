@@ -33,10 +33,8 @@ nlohmann::ordered_json TimecodeDateJson(const Korv::TimePoints::TimeCode& timeCo
 // The charset 8-bit clip texts are shown in and read from, unless --charset says otherwise.
 constexpr auto DefaultTextCharset = Korv::Plurex::Unicode::Charset::CodePage28591;
 
-// Every field in the clip's order. Texts are {"text", "unicode"} with "hex" added when the text does not
-// give back the stored bytes; 8-bit texts read through `charset`; enumerations are names, or numbers
-// where no name reads back to the value; timecodes carry date, time and frame when a builder can make
-// them, and always their count.
+// Every field in the clip's order: the library's Clips::ClipToValue as JSON, 8-bit texts read through
+// `charset`.
 nlohmann::ordered_json ClipToJson(const Korv::Plurex::Data::Clips::Clip& clip,
                                   Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
 Rows ClipToRows(const Korv::Plurex::Data::Clips::Clip& clip,
@@ -52,10 +50,11 @@ struct ClipDocument {
 // The clip a parsed document describes (see ParseClipJson); throws as it does, the JSON being parsed.
 ClipDocument ClipFromJson(const nlohmann::ordered_json& document,
                           Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
-// The clip a document describes, through the library's own setters: fields left out keep the default
-// clip's values; unknown fields are refused; 8-bit texts are written through `charset`. Every error
-// throws a Failure: syntax and nesting with line and column, a field with its path, the library's message
-// for a value the clip refuses. No exception of the JSON library leaves.
-ClipDocument ParseClipJson(const std::string& text, Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
+// The clip a document describes, read by the library's Clips::ClipFromValue: fields left out keep the
+// default clip's values; unknown fields are refused; 8-bit texts are written through `charset`. Every
+// error throws a Failure: syntax and nesting with line and column, a field with its path, the library's
+// message for a value the clip refuses. No exception of the JSON library leaves.
+ClipDocument ParseClipJson(const std::string& text,
+                           Korv::Plurex::Unicode::Charset charset = DefaultTextCharset);
 
 }  // namespace PlurexTool
