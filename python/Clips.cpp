@@ -8,10 +8,12 @@
 #include <pybind11/stl.h>
 
 #include <cstring>
+#include <stdexcept>
 #include <type_traits>
 
 namespace PlurexPython {
 
+namespace Data = Korv::Plurex::Data;
 namespace Clips = Korv::Plurex::Data::Clips;
 namespace Essences = Korv::Plurex::Data::Clips::Essences;
 namespace Unicode = Korv::Plurex::Unicode;
@@ -57,6 +59,82 @@ Unicode::Charset Charset(const std::string& name) {
 
 std::string Bytes(const py::bytes& data) {
     return std::string(data);
+}
+
+// A value tree as Python's own objects: objects as dicts in their order, arrays as lists.
+py::object ToPython(const Data::Value& value) {
+    switch (value.GetKind()) {
+        case Data::Value::Kind::Null:
+            return py::none();
+        case Data::Value::Kind::Bool:
+            return py::bool_(value.AsBool());
+        case Data::Value::Kind::Int:
+            return py::int_(value.AsInt64());
+        case Data::Value::Kind::UInt:
+            return py::int_(value.AsUInt64());
+        case Data::Value::Kind::Double:
+            return py::float_(value.AsDouble());
+        case Data::Value::Kind::String:
+            return py::str(value.AsString());
+        case Data::Value::Kind::Array: {
+            py::list items;
+            for (const Data::Value& item : value.Items()) {
+                items.append(ToPython(item));
+            }
+            return std::move(items);
+        }
+        case Data::Value::Kind::Object: {
+            py::dict members;
+            for (const auto& [key, member] : value.Members()) {
+                members[py::str(key)] = ToPython(member);
+            }
+            return std::move(members);
+        }
+    }
+    throw std::logic_error("a value of unknown kind");
+}
+
+// Python's objects as a value tree: dicts with string keys, lists and tuples, and the scalars JSON has.
+Data::Value FromPython(const py::handle& object) {
+    if (object.is_none()) {
+        return Data::Value();
+    }
+    if (py::isinstance<py::bool_>(object)) {  // before int: a bool is an int in Python
+        return Data::Value(object.cast<bool>());
+    }
+    if (py::isinstance<py::int_>(object)) {
+        if (object.cast<py::int_>() < py::int_(0)) {
+            return Data::Value(object.cast<std::int64_t>());
+        }
+        return Data::Value(object.cast<std::uint64_t>());
+    }
+    if (py::isinstance<py::float_>(object)) {
+        return Data::Value(object.cast<double>());
+    }
+    if (py::isinstance<py::str>(object)) {
+        return Data::Value(object.cast<std::string>());
+    }
+    if (py::isinstance<py::dict>(object)) {
+        Data::Value members = Data::Value::Object();
+        for (const auto& [key, member] : object.cast<py::dict>()) {
+            if (!py::isinstance<py::str>(key)) {
+                throw py::type_error("dict keys must be str, not " +
+                                     py::str(py::type::of(key).attr("__name__")).cast<std::string>());
+            }
+            members.Set(key.cast<std::string>(), FromPython(member));
+        }
+        return members;
+    }
+    if (py::isinstance<py::list>(object) || py::isinstance<py::tuple>(object)) {
+        Data::Value items = Data::Value::Array();
+        for (const py::handle item : object) {
+            items.Append(FromPython(item));
+        }
+        return items;
+    }
+    throw py::type_error("cannot read a " +
+                         py::str(py::type::of(object).attr("__name__")).cast<std::string>() +
+                         " as a clip value");
 }
 
 void BindEssence(py::class_<Clip>& clip, const py::module_& module) {
@@ -166,6 +244,24 @@ void BindClips(py::module_& module) {
                                                    static_cast<unsigned int>(record.size()));
             },
             py::arg("data"), "True for a big-endian record's tag, False for a little-endian one, else None.")
+        .def(
+            "to_dict",
+            [](const Clip& self, const std::string& charset) {
+                return ToPython(Clips::ClipToValue(self, Charset(charset)));
+            },
+            py::arg("charset") = "iso-8859-1",
+            "Every field under the keys plurex's clip JSON has, in the record's order; 8-bit texts read "
+            "through "
+            "`charset`.")
+        .def_static(
+            "from_dict",
+            [](const py::dict& fields, const std::string& charset) {
+                return Clips::ClipFromValue(FromPython(fields), Charset(charset));
+            },
+            py::arg("fields"), py::arg("charset") = "iso-8859-1",
+            "The clip a dict of to_dict's form describes, fields left out as in a new clip; ValueError "
+            "naming "
+            "the field for anything the clip refuses.")
         .def(
             "get_text",
             [](const Clip& self, int field, const std::string& charset) {

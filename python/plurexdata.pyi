@@ -5,7 +5,7 @@ public name of the module appears here).
 """
 
 import enum
-from typing import List, Optional, Tuple
+from typing import Any, Dict, List, Optional, Tuple
 
 __version__: str
 
@@ -511,6 +511,12 @@ class Clip:
     def from_bytes(data: bytes, big_endian: bool = False) -> Clip:
         """The clip of the first 290 bytes of `data`; ValueError for fewer."""
     def to_bytes(self, big_endian: bool = False) -> bytes: ...
+    def to_dict(self, charset: str = "iso-8859-1") -> Dict[str, Any]:
+        """Every field under the keys of plurex's clip JSON, in the record's order."""
+    @staticmethod
+    def from_dict(fields: Dict[str, Any], charset: str = "iso-8859-1") -> Clip:
+        """The clip `fields` describes, fields left out as in a new clip; ValueError naming the field
+        for anything the clip refuses."""
     @staticmethod
     def detect_byte_order(data: bytes) -> Optional[bool]:
         """True for a big-endian record's tag, False for a little-endian one, else None."""

@@ -102,3 +102,30 @@ def test_record_size_and_byte_order_refusals():
     assert Clip.detect_byte_order(b"\x00\x08") is None and Clip.RECORD_SIZE == 290
     with pytest.raises(ValueError, match="^raw_bytes takes 8 bytes, got 7$"):
         Clip().raw_bytes = bytes(7)
+
+
+@pytest.mark.parametrize("name", ["clip-le.bin", "clip-be.bin"])
+def test_to_dict_is_the_tools_json_and_from_dict_reads_it_back(tool, name):
+    record = (EXAMPLES / name).read_bytes()
+    clip = Clip.from_bytes(record, big_endian=Clip.detect_byte_order(record))
+    expected = json.loads(tool("clip", "decode", "--json", str(EXAMPLES / name)))
+    del expected["record"]  # the record's place in its file, not the clip's
+    fields = clip.to_dict()
+    assert json.dumps(fields) == json.dumps(expected)  # keys in the same order
+    assert Clip.from_dict(fields) == clip and Clip.from_dict({}) == Clip()
+
+
+@pytest.mark.parametrize("fields, error, message", [
+    ({"colour": 1}, ValueError, "unknown field: colour"),
+    ({"attribute3": "Cam"}, ValueError, "attribute3: unknown name Cam"),
+    ({"value1": 1 << 32}, ValueError, "value1: 4294967296 is out of range"),
+    ({"keywords": [{"text": 5}] + [{"text": ""}] * 4}, ValueError, "keywords[0].text: a text expected"),
+    ({"keywords": []}, ValueError, "keywords: five texts expected"),
+    ({"name": {"text": "€"}}, ValueError, "name: U+20AC not in iso-8859-1"),
+    ({1: 2}, TypeError, "dict keys must be str, not int"),
+    ({"value1": b"\x01"}, TypeError, "cannot read a bytes as a clip value"),
+])
+def test_from_dict_refusals(fields, error, message):
+    with pytest.raises(error) as raised:
+        Clip.from_dict(fields)
+    assert str(raised.value) == message

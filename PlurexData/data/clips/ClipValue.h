@@ -33,7 +33,7 @@ PLUREXDATA_API Value ClipToValue(const Clip& clip,
 ///
 /// Throws std::invalid_argument whose message names the member by its path, for example
 /// "unknown field: name.colour", "keywords[2].text: a text expected", "attribute3: unknown name
-/// \"Cam\"", "value1: 4294967296 is out of range", "essences[1].metadata: Intra (0) does not suit a
+/// Cam", "value1: 4294967296 is out of range", "essences[1].metadata: Intra (0) does not suit a
 /// LongGop essence", "inBoundTodTimecode.rate: 50 or 60 expected"; texts from the input appear
 /// escaped as in a JSON string. The clip's own refusals arrive with its messages (std::invalid_argument
 /// from the text setters and the timecode setters, std::out_of_range from the timecode builder).
