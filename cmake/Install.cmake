@@ -5,9 +5,10 @@ set(PLUREXDATA_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/PlurexData)
 set(PLUREXDATA_RUNTIME_PACKAGE libkorv-plurexdata${PLUREXDATA_SOVERSION})
 set(PLUREXDATA_DEVELOPMENT_PACKAGE libkorv-plurexdata-dev)
 set(PLUREXDATA_TOOL_PACKAGE plurex)
+set(PLUREXDATA_PYTHON_PACKAGE python3-plurexdata)
 
-# Three components, one per package: the shared object and its SONAME link; what a program is built
-# with; the command-line tool.
+# A component per package: the shared object and its SONAME link; what a program is built with; the
+# command-line tool; the Python module (installed by python/CMakeLists.txt).
 install(TARGETS PlurexData EXPORT PlurexDataTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
@@ -51,6 +52,9 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/copyright.in ${PROJECT_BINARY_DIR}/copy
 set(PLUREXDATA_COMPONENTS runtime development)
 if(PLUREXDATA_BUILD_TOOLS)
     list(APPEND PLUREXDATA_COMPONENTS tool)
+endif()
+if(PLUREXDATA_PYTHON)
+    list(APPEND PLUREXDATA_COMPONENTS python)
 endif()
 foreach(component IN LISTS PLUREXDATA_COMPONENTS)
     string(TOUPPER ${component} upper)

@@ -2,6 +2,7 @@
 #   libkorv-plurexdata0.2   the shared object; its Depends computed by dpkg-shlibdeps
 #   libkorv-plurexdata-dev  headers, CMake package, pkg-config file; needs exactly that runtime
 #   plurex                  the command-line tool
+#   python3-plurexdata      the Python module, for the Python version it was built with
 set(PLUREXDATA_MAINTAINER "PlurexData contributors <plurexdata@example.org>"
     CACHE STRING "Maintainer named in the Debian packages")
 
@@ -60,5 +61,21 @@ plurex decodes and encodes the packed 290-byte clip records of a networked
 broadcast video-server installation, makes and reads its GUIDs, server and
 clip identifiers, checks timecodes, names enumeration values and converts
 text between the character sets the servers use.")
+
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME ${PLUREXDATA_PYTHON_PACKAGE})
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SHLIBDEPS ON)
+set(CPACK_COMPONENT_PYTHON_DEPENDS runtime)
+# An extension module is built for one Python version's ABI.
+if(PLUREXDATA_PYTHON_VERSION)
+    math(EXPR next_minor "${PLUREXDATA_PYTHON_VERSION_MINOR} + 1")
+    set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+        "python3 (>= ${PLUREXDATA_PYTHON_VERSION}), python3 (<< ${PLUREXDATA_PYTHON_VERSION_MAJOR}.${next_minor})")
+endif()
+set(CPACK_COMPONENT_PYTHON_DESCRIPTION "data model of a broadcast video-server installation (Python module)
+The plurexdata module gives Python scripts the PlurexData library: GUIDs and
+identifiers, clip records in either byte order with their texts,
+enumerations and timecodes, and text conversion between the character sets
+the servers use.")
 
 include(CPack)
