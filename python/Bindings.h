@@ -22,12 +22,22 @@ void BindEnumerations(py::module_& module);
 void BindIdentifiers(py::module_& module);
 void BindText(py::module_& module);
 void BindTimeCodes(py::module_& module);
+void BindChannels(py::module_& module);
 
 /// An enum.IntEnum named `name` in `scope` with the given members; a value none of them has reads as
 /// the member named `fallback` (no fallback: a ValueError, as any IntEnum raises).
 py::object MakeIntEnum(py::handle scope, const char* name,
                        const std::vector<std::pair<std::string, std::int64_t>>& members,
                        const std::string& fallback = {});
+
+/// An enum.IntFlag named `name` in `scope`, for a bit mask: any combination of the members' bits is a
+/// value of it.
+py::object MakeIntFlag(py::handle scope, const char* name,
+                       const std::vector<std::pair<std::string, std::int64_t>>& members);
+
+/// The member of an enumeration made by MakeIntEnum without fallback that has `value`, or the plain
+/// int when none has: for the enumerations whose every 32-bit value is valid, named or not.
+py::object EnumOrInt(const py::object& enumeration, std::int64_t value);
 
 /// The IntEnum of a library table: its rows in the table's order, and its default for the values the
 /// table does not name, as ToString prints them.

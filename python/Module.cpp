@@ -6,9 +6,11 @@
 
 namespace PlurexPython {
 
-py::object MakeIntEnum(py::handle scope, const char* name,
-                       const std::vector<std::pair<std::string, std::int64_t>>& members,
-                       const std::string& fallback) {
+namespace {
+
+// A class of the enum module (IntEnum, IntFlag) named `name` in `scope`, with the given members.
+py::object MakeEnumeration(const char* kind, py::handle scope, const char* name,
+                           const std::vector<std::pair<std::string, std::int64_t>>& members) {
     py::list pairs;
     for (const auto& [member, value] : members) {
         pairs.append(py::make_tuple(member, value));
@@ -19,8 +21,18 @@ py::object MakeIntEnum(py::handle scope, const char* name,
     if (!py::isinstance<py::module_>(scope)) {
         qualifiedName = py::str(scope.attr("__qualname__")).cast<std::string>() + "." + name;
     }
-    py::object enumeration = py::module_::import("enum").attr("IntEnum")(
+    py::object enumeration = py::module_::import("enum").attr(kind)(
         name, pairs, py::arg("module") = moduleName, py::arg("qualname") = qualifiedName);
+    scope.attr(name) = enumeration;
+    return enumeration;
+}
+
+}  // namespace
+
+py::object MakeIntEnum(py::handle scope, const char* name,
+                       const std::vector<std::pair<std::string, std::int64_t>>& members,
+                       const std::string& fallback) {
+    py::object enumeration = MakeEnumeration("IntEnum", scope, name, members);
     if (!fallback.empty()) {
         // Enum calls _missing_ for a value no member has: the table's default answers, as the
         // library's ToString does.
@@ -28,8 +40,16 @@ py::object MakeIntEnum(py::handle scope, const char* name,
         py::cpp_function missing([member](const py::object&, const py::object&) { return member; });
         enumeration.attr("_missing_") = py::module_::import("builtins").attr("classmethod")(missing);
     }
-    scope.attr(name) = enumeration;
     return enumeration;
+}
+
+py::object MakeIntFlag(py::handle scope, const char* name,
+                       const std::vector<std::pair<std::string, std::int64_t>>& members) {
+    return MakeEnumeration("IntFlag", scope, name, members);
+}
+
+py::object EnumOrInt(const py::object& enumeration, std::int64_t value) {
+    return enumeration.attr("_value2member_map_").attr("get")(value, py::int_(value));
 }
 
 namespace Unicode = Korv::Plurex::Unicode;
@@ -52,4 +72,5 @@ PYBIND11_MODULE(plurexdata, module) {
     PlurexPython::BindTimeCodes(module);
     PlurexPython::BindClips(module);
     PlurexPython::BindText(module);
+    PlurexPython::BindChannels(module);
 }

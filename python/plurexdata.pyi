@@ -595,3 +595,116 @@ def transcode_strict(data: bytes, source: str, target: str) -> bytes:
 
 def charset_names() -> List[str]: ...
 def charset_aliases(name: str) -> List[str]: ...
+
+# Channel states and their comparison
+
+UNSET_TIME: int
+
+class PlayerInfoOnAir:
+    """What a player reports about its transport: 27 words."""
+
+    def __init__(self) -> None: ...
+    word0: int
+    word1: int
+    mode: int
+    rate_numerator: int
+    rate_denominator: int
+    word5: int
+    word6: int
+    word7: int
+    word8: int
+    values: List[int]
+    """The eight 64-bit values (words 9 to 24), read and written whole."""
+    end: int
+    word26: int
+    @property
+    def position(self) -> int:
+        """The low 32 bits of the first value."""
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+
+class PlayerClipOnAir:
+    """A clip that a player has on air (of the clip itself, only its first text is reached)."""
+
+    def __init__(self) -> None: ...
+    clip_present: bool
+    time_value: int
+    first_timecode: TimeCode
+    second_timecode: TimeCode
+    clip_text1: str
+    """The clip's first text (Clip::text1), ISO 8859-1, at most 8 characters: what compare_status reads."""
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+
+class PlayerState:
+    """A snapshot of one play channel."""
+
+    class StatusChange(enum.IntFlag):
+        """What compare_status found changed; 0x080 to 0x400 are never set."""
+
+        # None = 0x000, reached as StatusChange["None"] (None is a keyword)
+        Name = 0x001
+        Mode = 0x002
+        InfoWord1 = 0x004
+        RateCleared = 0x008
+        RateSet = 0x010
+        RemainingTime = 0x020
+        FirstClipOnAir = 0x040
+        SecondClipOnAir = 0x800
+    NAME_SIZE: int
+    TIME_VALUE_COUNT: int
+    TIMECODE_COUNT: int
+    def __init__(self, *args: object) -> None:
+        """(); (first_id, second_id); or (other: PlayerState), a copy."""
+    @property
+    def first_id(self) -> int: ...
+    @property
+    def second_id(self) -> int: ...
+    name: str
+    """ISO 8859-1; setting keeps at most NAME_SIZE - 1 characters."""
+    def channel_mode(self) -> int: ...
+    first_value: int
+    second_value: int
+    third_value: int
+    info_on_air: PlayerInfoOnAir
+    """The transport; `state.info_on_air.mode = 3` changes the state."""
+    @property
+    def clips_on_air(self) -> Tuple[PlayerClipOnAir, PlayerClipOnAir]:
+        """The two clips on air, changed in place."""
+    time_values: List[int]
+    def compare_status(self, other: PlayerState) -> PlayerState.StatusChange:
+        """The changes from this state to `other`."""
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+
+class RecorderState:
+    """A snapshot of one record channel (its clip is not reached yet; clip_present is)."""
+
+    class StatusChange(enum.IntFlag):
+        # None = 0x0, reached as StatusChange["None"] (None is a keyword)
+        Name = 0x1
+        Status = 0x2
+    NAME_SIZE: int
+    def __init__(self, *args: object) -> None:
+        """(); (first_id, second_id); or (other: RecorderState), a copy."""
+    @property
+    def first_id(self) -> int: ...
+    @property
+    def second_id(self) -> int: ...
+    name: str
+    def channel_mode(self) -> int: ...
+    status: int
+    flag_byte: int
+    """Changes with every report; equality ignores it."""
+    first_time_value: int
+    second_time_value: int
+    first_timecode: TimeCode
+    second_timecode: TimeCode
+    first_value: int
+    second_value: int
+    third_value: int
+    clip_present: bool
+    def compare_status(self, other: RecorderState) -> RecorderState.StatusChange:
+        """The changes from this state to `other`: name and status only."""
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...

@@ -1,0 +1,159 @@
+// The player and recorder states, the parts of them that their equality and CompareStatus read, and
+// the masks CompareStatus returns, as enum.IntFlag.
+#include "Bindings.h"
+#include "EnumCasters.h"
+
+#include "PlurexData/PlurexData.h"
+
+#include <pybind11/operators.h>
+#include <pybind11/stl.h>
+
+#include <array>
+
+namespace PlurexPython {
+
+namespace Channels = Korv::Plurex::Data::Channels;
+namespace Clips = Korv::Plurex::Data::Clips;
+using Channels::PlayerClipOnAir;
+using Channels::PlayerInfoOnAir;
+using Channels::PlayerState;
+using Channels::RecorderState;
+
+namespace {
+
+// What both states share: identifiers, name, mode and equality.
+template <class State, class Class>
+void DefineChannelState(Class& cls) {
+    // Through lambdas: the members of the unbound base ChannelState would take it as `self`.
+    cls.def_property_readonly("first_id", [](const State& self) { return self.GetFirstId(); })
+        .def_property_readonly("second_id", [](const State& self) { return self.GetSecondId(); })
+        .def_property(
+            "name", [](const State& self) { return FromLatin1(self.GetName()); },
+            [](State& self, const std::string& name) { self.SetName(ToLatin1(name).c_str()); },
+            "ISO 8859-1 text; setting keeps at most NAME_SIZE - 1 characters.")
+        .def(
+            "channel_mode", [](const State& self) { return self.ChannelMode(); },
+            "0 for a player, 1 for a recorder.")
+        .def(py::self == py::self)
+        .def(py::self != py::self);
+    cls.attr("NAME_SIZE") = Channels::ChannelState::NameSize;
+}
+
+void BindPlayer(py::module_& module) {
+    py::class_<PlayerInfoOnAir>(module, "PlayerInfoOnAir", "What a player reports about its transport.")
+        .def(py::init<>())
+        .def_readwrite("word0", &PlayerInfoOnAir::word0)
+        .def_readwrite("word1", &PlayerInfoOnAir::word1)
+        .def_readwrite("mode", &PlayerInfoOnAir::mode)
+        .def_readwrite("rate_numerator", &PlayerInfoOnAir::rateNumerator)
+        .def_readwrite("rate_denominator", &PlayerInfoOnAir::rateDenominator)
+        .def_readwrite("word5", &PlayerInfoOnAir::word5)
+        .def_readwrite("word6", &PlayerInfoOnAir::word6)
+        .def_readwrite("word7", &PlayerInfoOnAir::word7)
+        .def_readwrite("word8", &PlayerInfoOnAir::word8)
+        .def_property(
+            "values",
+            [](const PlayerInfoOnAir& self) {
+                std::array<std::int64_t, PlayerInfoOnAir::ValueCount> values{};
+                for (unsigned int i = 0; i < PlayerInfoOnAir::ValueCount; ++i) {
+                    values[i] = self.values[i];
+                }
+                return values;
+            },
+            [](PlayerInfoOnAir& self, const std::array<std::int64_t, PlayerInfoOnAir::ValueCount>& values) {
+                for (unsigned int i = 0; i < PlayerInfoOnAir::ValueCount; ++i) {
+                    self.values[i] = values[i];
+                }
+            },
+            "The eight 64-bit values (words 9 to 24), read and written whole.")
+        .def_readwrite("end", &PlayerInfoOnAir::end)
+        .def_readwrite("word26", &PlayerInfoOnAir::word26)
+        .def_property_readonly("position", &PlayerInfoOnAir::Position, "The low 32 bits of the first value.")
+        .def(py::self == py::self)
+        .def(py::self != py::self);
+
+    // Clip is not bound yet: of the clip, only its first text (what CompareStatus reads) is reached.
+    py::class_<PlayerClipOnAir>(module, "PlayerClipOnAir", "A clip that a player has on air.")
+        .def(py::init<>())
+        .def_readwrite("clip_present", &PlayerClipOnAir::clipPresent)
+        .def_readwrite("time_value", &PlayerClipOnAir::timeValue)
+        .def_readwrite("first_timecode", &PlayerClipOnAir::firstTimecode)
+        .def_readwrite("second_timecode", &PlayerClipOnAir::secondTimecode)
+        .def_property(
+            "clip_text1",
+            [](const PlayerClipOnAir& self) {
+                return Clips::GetTextUtf8(self.clip, Clips::TextField::Text1);
+            },
+            [](PlayerClipOnAir& self, const std::string& text) {
+                Clips::SetTextUtf8(self.clip, Clips::TextField::Text1, text);
+            },
+            "The clip's first text (text1), ISO 8859-1, at most 8 characters.")
+        .def(py::self == py::self)
+        .def(py::self != py::self);
+
+    py::class_<PlayerState> player(module, "PlayerState", "A snapshot of one play channel.");
+    MakeIntFlag(player, "StatusChange",
+                {{"None", 0},
+                 {"Name", 0x001},
+                 {"Mode", 0x002},
+                 {"InfoWord1", 0x004},
+                 {"RateCleared", 0x008},
+                 {"RateSet", 0x010},
+                 {"RemainingTime", 0x020},
+                 {"FirstClipOnAir", 0x040},
+                 {"SecondClipOnAir", 0x800}});
+    player.def(py::init<>())
+        .def(py::init<unsigned int, unsigned int>(), py::arg("first_id"), py::arg("second_id"))
+        .def(py::init<const PlayerState&>(), py::arg("other"));
+    DefineChannelState<PlayerState>(player);
+    player.def_readwrite("first_value", &PlayerState::firstValue)
+        .def_readwrite("second_value", &PlayerState::secondValue)
+        .def_readwrite("third_value", &PlayerState::thirdValue)
+        .def_readwrite("info_on_air", &PlayerState::infoOnAir, "The transport, changed in place.")
+        .def_property_readonly(
+            "clips_on_air",
+            [](py::object self) {
+                PlayerState& state = self.cast<PlayerState&>();
+                return py::make_tuple(
+                    py::cast(&state.clipsOnAir[0], py::return_value_policy::reference_internal, self),
+                    py::cast(&state.clipsOnAir[1], py::return_value_policy::reference_internal, self));
+            },
+            "The two clips on air, changed in place.")
+        .def_readwrite("time_values", &PlayerState::timeValues)
+        .def("compare_status", &PlayerState::CompareStatus, py::arg("other"),
+             "The changes from this state to `other`.");
+    player.attr("TIME_VALUE_COUNT") = PlayerState::TimeValueCount;
+    player.attr("TIMECODE_COUNT") = PlayerState::TimecodeCount;
+}
+
+void BindRecorder(py::module_& module) {
+    py::class_<RecorderState> recorder(module, "RecorderState", "A snapshot of one record channel.");
+    MakeIntFlag(recorder, "StatusChange", {{"None", 0}, {"Name", 0x1}, {"Status", 0x2}});
+    recorder.def(py::init<>())
+        .def(py::init<unsigned int, unsigned int>(), py::arg("first_id"), py::arg("second_id"))
+        .def(py::init<const RecorderState&>(), py::arg("other"));
+    DefineChannelState<RecorderState>(recorder);
+    // The clip is left out until Clip is bound; clip_present still takes part in equality.
+    recorder.def_readwrite("status", &RecorderState::status)
+        .def_readwrite("flag_byte", &RecorderState::flagByte)
+        .def_readwrite("first_time_value", &RecorderState::firstTimeValue)
+        .def_readwrite("second_time_value", &RecorderState::secondTimeValue)
+        .def_readwrite("first_timecode", &RecorderState::firstTimecode)
+        .def_readwrite("second_timecode", &RecorderState::secondTimecode)
+        .def_readwrite("first_value", &RecorderState::firstValue)
+        .def_readwrite("second_value", &RecorderState::secondValue)
+        .def_readwrite("third_value", &RecorderState::thirdValue)
+        .def_readwrite("clip_present", &RecorderState::clipPresent)
+        .def("compare_status", &RecorderState::CompareStatus, py::arg("other"),
+             "The changes from this state to `other`: name and status only.");
+}
+
+}  // namespace
+
+void BindChannels(py::module_& module) {
+    module.attr("UNSET_TIME") = Channels::UnsetTime;
+    BindPlayer(module);
+    BindRecorder(module);
+}
+
+}  // namespace PlurexPython

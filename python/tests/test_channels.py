@@ -1,0 +1,82 @@
+import enum
+
+import pytest
+
+from plurexdata import PlayerState, RecorderState
+
+Change = PlayerState.StatusChange
+
+
+def player(mode=0, end=0, position=0, first=False, second=False, text1="CLIP0001", name="", word1=0,
+           numerator=0, denominator=1):
+    """A player state with the fields CompareStatus reads, set through the bindings."""
+    state = PlayerState()
+    state.name = name
+    info = state.info_on_air
+    info.mode, info.word1, info.rate_numerator, info.rate_denominator, info.end = (
+        mode, word1, numerator, denominator, end)
+    info.values = [0x7700000000 + position] + [0] * 7  # only the low word is the position
+    first_clip, second_clip = state.clips_on_air
+    first_clip.clip_present, first_clip.clip_text1 = first, text1
+    second_clip.clip_present = second
+    return state
+
+
+def playing(mode=3, end=100, position=10, **fields):
+    return player(mode, end, position, first=True, **fields)
+
+
+# The cases of the C++ tests (tests/channels/PlayerStateTest.cpp), one or more for each bit.
+@pytest.mark.parametrize("this, other, expected", [
+    (player(), player(), Change["None"]),
+    (player(), player(name="PGM1"), Change.Name),
+    (player(), player(mode=1, first=True), Change.Mode),
+    (player(), player(word1=9), Change.InfoWord1),
+    (player(numerator=2), player(), Change.RateCleared),
+    (player(), player(numerator=2), Change.RateSet),
+    (playing(mode=8, end=0, position=0, second=True), playing(mode=8, end=0, position=0), Change.SecondClipOnAir),
+    (playing(mode=8, end=0, position=0), playing(mode=8, end=0, position=0, text1="OTHER"), Change.FirstClipOnAir),
+    (playing(mode=4, second=True), playing(mode=4), Change["None"]),
+    (playing(), playing(text1="CLIP0009"), Change.FirstClipOnAir),
+    (playing(mode=1), playing(), Change.Mode | Change.RemainingTime),
+    (player(mode=3, end=100, position=10), playing(), Change.RemainingTime | Change.FirstClipOnAir),
+    (playing(end=11), playing(), Change.RemainingTime),
+    (playing(end=11), playing(numerator=-1), Change.RemainingTime | Change.RateSet),  # -1 does not scale
+])
+def test_player_compare_status_reaches_every_bit(this, other, expected):
+    mask = this.compare_status(other)
+    assert type(mask) is Change and isinstance(mask, enum.IntFlag)
+    assert mask == expected and int(mask) == int(expected)
+
+
+@pytest.mark.parametrize("change, expected", [
+    (lambda s: None, RecorderState.StatusChange["None"]),
+    (lambda s: setattr(s, "status", 2), RecorderState.StatusChange.Status),
+    (lambda s: setattr(s, "name", "REC1"), RecorderState.StatusChange.Name),
+    (lambda s: (setattr(s, "name", "REC1"), setattr(s, "status", 5)),
+     RecorderState.StatusChange.Name | RecorderState.StatusChange.Status),
+    # Equality reads these, the comparison does not.
+    (lambda s: (setattr(s, "first_value", 5), setattr(s, "clip_present", True)), RecorderState.StatusChange["None"]),
+])
+def test_recorder_compare_status_sees_name_and_status_only(change, expected):
+    this, other = RecorderState(), RecorderState()
+    change(other)
+    mask = this.compare_status(other)
+    assert type(mask) is RecorderState.StatusChange and mask == expected
+
+
+def test_states_identity_name_and_equality():
+    state = PlayerState(7, 8)
+    assert (state.first_id, state.second_id, state.channel_mode()) == (7, 8, 0)
+    state.name = "N" * 40
+    assert state.name == "N" * (PlayerState.NAME_SIZE - 1)
+    copy = PlayerState(state)
+    assert copy == state
+    copy.clips_on_air[1].clip_present = True  # the tuple's items are the state's own
+    assert copy != state
+
+    recorder = RecorderState(1, 2)
+    assert recorder.channel_mode() == 1 and recorder != RecorderState(1, 3)
+    other = RecorderState(recorder)
+    other.flag_byte = 7  # equality leaves the flag byte out
+    assert other == recorder
