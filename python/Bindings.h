@@ -8,6 +8,7 @@
 #include <pybind11/pybind11.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -23,6 +24,7 @@ void BindIdentifiers(py::module_& module);
 void BindText(py::module_& module);
 void BindTimeCodes(py::module_& module);
 void BindChannels(py::module_& module);
+void BindNotifications(py::module_& module);
 
 /// An enum.IntEnum named `name` in `scope` with the given members; a value none of them has reads as
 /// the member named `fallback` (no fallback: a ValueError, as any IntEnum raises).
@@ -38,6 +40,42 @@ py::object MakeIntFlag(py::handle scope, const char* name,
 /// The member of an enumeration made by MakeIntEnum without fallback that has `value`, or the plain
 /// int when none has: for the enumerations whose every 32-bit value is valid, named or not.
 py::object EnumOrInt(const py::object& enumeration, std::int64_t value);
+
+/// A reference to a Python object that C++ owners may copy and drop on any thread, the GIL held or
+/// not: copies share the one reference, and the last owner takes the GIL to release it. What the
+/// library keeps (callbacks in std::function, arguments in a queue) holds Python objects this way.
+class GilObject {
+public:
+    explicit GilObject(py::object object) : holder_(std::make_shared<Holder>(std::move(object))) {}
+
+    /// The object; only with the GIL held.
+    const py::object& Get() const noexcept { return holder_->object; }
+
+    /// A pointer to `part` (the C++ value inside the object) that keeps the object alive as long
+    /// as any copy of it.
+    template <class T>
+    std::shared_ptr<T> Share(T* part) const noexcept {
+        return std::shared_ptr<T>(holder_, part);
+    }
+
+private:
+    struct Holder {
+        explicit Holder(py::object o) noexcept : object(std::move(o)) {}
+        Holder(const Holder&) = delete;
+        Holder& operator=(const Holder&) = delete;
+        ~Holder() {
+            if (!Py_IsInitialized()) {
+                // The interpreter is gone and the reference with it: nothing is left to release.
+                object.release();
+                return;
+            }
+            py::gil_scoped_acquire gil;
+            object = py::object();
+        }
+        py::object object;
+    };
+    std::shared_ptr<Holder> holder_;
+};
 
 /// The IntEnum of a library table: its rows in the table's order, and its default for the values the
 /// table does not name, as ToString prints them.

@@ -73,4 +73,5 @@ PYBIND11_MODULE(plurexdata, module) {
     PlurexPython::BindClips(module);
     PlurexPython::BindText(module);
     PlurexPython::BindChannels(module);
+    PlurexPython::BindNotifications(module);
 }

@@ -5,7 +5,7 @@ public name of the module appears here).
 """
 
 import enum
-from typing import Any, Dict, List, Optional, Tuple
+from typing import Any, Callable, Dict, List, Optional, Tuple, overload
 
 __version__: str
 
@@ -708,3 +708,384 @@ class RecorderState:
         """The changes from this state to `other`: name and status only."""
     def __eq__(self, other: object) -> bool: ...
     def __ne__(self, other: object) -> bool: ...
+
+# Event arguments. Enumerations below carry every 32-bit value: a value without a name arrives as the
+# plain int. The classes that hold clips (creation, update, deletion, move) are made with empty clips
+# and do not show them: Clip is not bound yet.
+
+class OperationResult(enum.IntEnum):
+    Success = 0
+    Failure = 1
+
+class Angle:
+    """One camera angle of an angles group: five opaque 32-bit words."""
+
+    def __init__(self, words: List[int] = ...) -> None: ...
+    words: List[int]
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+
+class EventArgs:
+    """The base of every event's arguments."""
+
+    def __init__(self) -> None: ...
+
+class CommandEventArgs(EventArgs):
+    def __init__(self) -> None: ...
+
+class StatusEventArgs(EventArgs):
+    UNSET_TIME: int
+    def __init__(self) -> None: ...
+    @property
+    def time(self) -> int:
+        """UNSET_TIME until set."""
+
+class ClipCommandEventArgs(CommandEventArgs):
+    """What every clip command event carries."""
+
+    class RequestSource(enum.IntEnum):
+        Local = 0
+        Network = 1
+        Unknown = 2
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int) -> None: ...
+    @property
+    def command_number(self) -> int: ...
+    @property
+    def request_source(self) -> int: ...
+    @property
+    def third_value(self) -> int: ...
+    @property
+    def fourth_value(self) -> int: ...
+    @property
+    def command_guid(self) -> Guid: ...
+    @property
+    def reserved_word(self) -> int: ...
+    @property
+    def value64(self) -> int: ...
+    def request_source_string(self, short_form: bool) -> str:
+        """"Local", "Network" or "Unknown"; "LR", "NR" or "UR" in short form."""
+
+class ClipCreationEventArgs(ClipCommandEventArgs):
+    class CreationType(enum.IntEnum):
+        Make = 0
+        Copy = 1
+        QorvaneRestore = 2
+        DrovikRestore = 3
+    class NetworkType(enum.IntEnum):
+        Sdti = 0
+        Drovik = 1
+        PushSdti = 3
+        PushDrovik = 4
+        PushUnknown = 5
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, creation_type: int, network_type: int) -> None: ...
+    @property
+    def creation_type(self) -> int: ...
+    @property
+    def network_type(self) -> int: ...
+    @property
+    def creation_type_string(self) -> str: ...
+    @property
+    def network_type_string(self) -> str: ...
+
+class ClipCreationFinishedEventArgs(ClipCreationEventArgs): ...
+
+class ClipCreationFailedEventArgs(ClipCreationEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, creation_type: int, network_type: int) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class ClipUpdateEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int) -> None: ...
+
+class ClipUpdateFinishedEventArgs(ClipUpdateEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, flag: bool) -> None: ...  # type: ignore[override]
+    @property
+    def flag(self) -> bool: ...
+
+class ClipUpdateFailedEventArgs(ClipUpdateEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class ClipDeletionEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, first_byte: int, second_byte: int) -> None: ...
+    @property
+    def first_byte(self) -> int: ...
+    @property
+    def second_byte(self) -> int: ...
+
+class ClipDeletionFinishedEventArgs(ClipDeletionEventArgs): ...
+
+class ClipDeletionFailedEventArgs(ClipDeletionEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, first_byte: int, second_byte: int, third_byte: int, first_flag: bool, second_flag: bool) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+    @property
+    def third_byte(self) -> int: ...
+    @property
+    def first_flag(self) -> bool: ...
+    @property
+    def second_flag(self) -> bool: ...
+
+class ClipMoveEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int) -> None: ...
+
+class ClipMoveFinishedEventArgs(ClipMoveEventArgs): ...
+
+class ClipMoveFailedEventArgs(ClipMoveEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class MassClipUpdateEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, count: int) -> None: ...
+    @property
+    def count(self) -> int: ...
+
+class MassClipUpdateFailedEventArgs(MassClipUpdateEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, count: int) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class MassClipDeletionEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, count: int) -> None: ...
+    @property
+    def count(self) -> int: ...
+
+class MassClipDeletionFailedEventArgs(MassClipDeletionEventArgs):
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, count: int) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class AnglesGroupCreationEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, command_guid: Guid, value: int, first_angle: Angle, second_angle: Angle, angles: List[Angle]) -> None: ...  # type: ignore[override]
+    @property
+    def value(self) -> int: ...
+    @property
+    def first_angle(self) -> Angle: ...
+    @property
+    def second_angle(self) -> Angle: ...
+    @property
+    def angles(self) -> List[Angle]: ...
+
+class AnglesGroupCreationFinishedEventArgs(AnglesGroupCreationEventArgs): ...
+
+class AnglesGroupCreationFailedEventArgs(AnglesGroupCreationEventArgs):
+    def __init__(self, command_number: int, command_guid: Guid, result: int, error_code: int, value: int, first_angle: Angle, second_angle: Angle, angles: List[Angle]) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class AnglesGroupUpdateEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, command_guid: Guid, value: int, first_angle: Angle, second_angle: Angle, angles: List[Angle]) -> None: ...  # type: ignore[override]
+    @property
+    def value(self) -> int: ...
+    @property
+    def first_angle(self) -> Angle: ...
+    @property
+    def second_angle(self) -> Angle: ...
+    @property
+    def angles(self) -> List[Angle]: ...
+
+class AnglesGroupUpdateFinishedEventArgs(AnglesGroupUpdateEventArgs): ...
+
+class AnglesGroupUpdateFailedEventArgs(AnglesGroupUpdateEventArgs):
+    def __init__(self, command_number: int, command_guid: Guid, result: int, error_code: int, value: int, first_angle: Angle, second_angle: Angle, angles: List[Angle]) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class AnglesGroupDeletionEventArgs(ClipCommandEventArgs):
+    def __init__(self, command_number: int, command_guid: Guid, value: int) -> None: ...  # type: ignore[override]
+    @property
+    def value(self) -> int: ...
+
+class AnglesGroupDeletionFinishedEventArgs(AnglesGroupDeletionEventArgs): ...
+
+class AnglesGroupDeletionFailedEventArgs(AnglesGroupDeletionEventArgs):
+    def __init__(self, command_number: int, command_guid: Guid, result: int, error_code: int, value: int) -> None: ...  # type: ignore[override]
+    @property
+    def result(self) -> int: ...
+    @property
+    def error_code(self) -> int: ...
+
+class ClipStatusEventArgs(StatusEventArgs):
+    def __init__(self) -> None: ...
+
+class RecordingRangesChangedEventArgs(ClipStatusEventArgs):
+    def __init__(self) -> None: ...
+
+class ChannelCommandEventArgs(CommandEventArgs):
+    def __init__(self) -> None: ...
+
+class RecorderTransportProcessedEventArgs(ChannelCommandEventArgs):
+    def __init__(self) -> None: ...
+
+class PlayerLoadProcessedEventArgs(ChannelCommandEventArgs):
+    def __init__(self) -> None: ...
+
+class PlayerTransportProcessedEventArgs(ChannelCommandEventArgs):
+    def __init__(self) -> None: ...
+
+class ChannelStatusEventArgs(StatusEventArgs):
+    def __init__(self, channel_guid: ChannelGuid) -> None:
+        """Its time: the system clock's now, in nanoseconds since the epoch."""
+    @property
+    def channel_guid(self) -> ChannelGuid: ...
+    def store_system_time(self) -> None: ...
+
+class RecorderStateChangedEventArgs(ChannelStatusEventArgs):
+    def __init__(self, channel_guid: ChannelGuid, status_change: int, state: RecorderState) -> None: ...  # type: ignore[override]
+    @property
+    def status_change(self) -> RecorderState.StatusChange: ...
+    @property
+    def state(self) -> RecorderState:
+        """A copy."""
+
+class PlayerStateChangedEventArgs(ChannelStatusEventArgs):
+    def __init__(self, channel_guid: ChannelGuid, status_change: int, state: PlayerState) -> None: ...  # type: ignore[override]
+    @property
+    def status_change(self) -> PlayerState.StatusChange: ...
+    @property
+    def state(self) -> PlayerState:
+        """A copy."""
+
+class ServerStatusEventArgs(StatusEventArgs):
+    def __init__(self) -> None: ...
+
+class ServerAddedEventArgs(ServerStatusEventArgs):
+    def __init__(self) -> None: ...
+
+class ServerRemovedEventArgs(ServerStatusEventArgs):
+    def __init__(self) -> None: ...
+
+class DisconnectedFromNetworkEventArgs(ServerStatusEventArgs):
+    def __init__(self) -> None: ...
+
+# Event types: the scopes of the Type enumerations. A notifier carries any 32-bit type; one no member
+# names reaches the generic callbacks only, as the plain int.
+
+class ClipCommandEvent:
+    class Type(enum.IntEnum):
+        ClipCreation = 0
+        ClipCreationFinished = 1
+        ClipCreationFailed = 2
+        ClipUpdateFinished = 3
+        ClipUpdateFailed = 4
+        ClipDeletionFinished = 5
+        ClipDeletionFailed = 6
+        ClipMove = 7
+        ClipMoveFinished = 8
+        ClipMoveFailed = 9
+        MassClipUpdate = 10
+        MassClipUpdateFailed = 11
+        MassClipDeletion = 12
+        MassClipDeletionFailed = 13
+        AnglesGroupCreationFinished = 14
+        AnglesGroupCreationFailed = 15
+        AnglesGroupUpdateFinished = 16
+        AnglesGroupUpdateFailed = 17
+        AnglesGroupDeletionFinished = 18
+        AnglesGroupDeletionFailed = 19
+
+class ClipStatusEvent:
+    class Type(enum.IntEnum):
+        RecordingRangesChanged = 0
+
+class ChannelCommandEvent:
+    class Type(enum.IntEnum):
+        RecorderTransportProcessed = 0
+        PlayerLoadProcessed = 1
+        PlayerTransportProcessed = 2
+
+class ChannelStatusEvent:
+    class Type(enum.IntEnum):
+        RecorderStateChanged = 0
+        PlayerStateChanged = 1
+
+class ServerStatusEvent:
+    class Type(enum.IntEnum):
+        ServerAdded = 0
+        ServerRemoved = 1
+        DisconnectedFromNetwork = 2
+
+# Notifiers. Events are posted from any thread and delivered by run or run_for on one consumer
+# thread, first to the specific list of the event's type (the callbacks added for its argument class),
+# then to the generic list, each in the order added. Callbacks run with the GIL held; run and run_for
+# release it while they wait and run. Add callbacks before or between runs, or from a callback of the
+# same notifier, never from another thread while a run may be going on. An exception from a callback
+# leaves run at once and reaches its caller; that event is lost.
+
+class PlurexClipNotifyer:
+    """Carries clip events from any thread to callbacks run by run()."""
+
+    def __init__(self) -> None: ...
+    @overload
+    def send_event(self, args: ClipCommandEventArgs, type: int) -> None:
+        """Queues `args` under `type`: ValueError("Null EventArgs") for None, ValueError("EventArgs do not
+        match the event type") for arguments not of the class (or a subclass) of the type's list."""
+    @overload
+    def send_event(self, args: ClipStatusEventArgs, type: int) -> None: ...
+    @overload
+    def send_event(self, args: EventArgs) -> None:
+        """Queues `args` under the type whose list takes exactly its class; TypeError for a class no
+        type names (a base class, or a class another list takes a subclass of)."""
+    def add_callback(self, args_class: type, callback: Callable[[Any], object]) -> None:
+        """Appends `callback(args)` to the specific list of `args_class` (exactly that class: TypeError
+        for another)."""
+    def add_generic_command_callback(self, callback: Callable[[int, ClipCommandEventArgs], object]) -> None:
+        """Appends `callback(type, args)` to the list every command event reaches."""
+    def add_generic_status_callback(self, callback: Callable[[int, ClipStatusEventArgs], object]) -> None:
+        """Appends `callback(type, args)` to the list every status event reaches."""
+    def run(self) -> None:
+        """Delivers the front command event and the front status event, if any."""
+    def run_for(self, timeout_ms: int) -> bool:
+        """Waits for an event, a wake or the timeout, then runs as run does unless woken. Whether an event
+        was delivered: False after the timeout with nothing queued, and at once after a wake."""
+    def wake(self) -> None:
+        """Makes the waiting run_for (or else the next one) return False at once; from any thread."""
+
+class PlurexChannelNotifyer:
+    """Carries channel events from any thread to callbacks run by run()."""
+
+    def __init__(self) -> None: ...
+    @overload
+    def send_event(self, args: ChannelCommandEventArgs, type: int) -> None: ...
+    @overload
+    def send_event(self, args: ChannelStatusEventArgs, type: int) -> None: ...
+    @overload
+    def send_event(self, args: EventArgs) -> None: ...
+    def add_callback(self, args_class: type, callback: Callable[[Any], object]) -> None: ...
+    def add_generic_command_callback(self, callback: Callable[[int, ChannelCommandEventArgs], object]) -> None: ...
+    def add_generic_status_callback(self, callback: Callable[[int, ChannelStatusEventArgs], object]) -> None: ...
+    def run(self) -> None: ...
+    def run_for(self, timeout_ms: int) -> bool: ...
+    def wake(self) -> None: ...
+
+class PlurexServerNotifyer:
+    """Carries server events from any thread to callbacks run by run(); status events only."""
+
+    def __init__(self) -> None: ...
+    @overload
+    def send_event(self, args: ServerStatusEventArgs, type: int) -> None: ...
+    @overload
+    def send_event(self, args: EventArgs) -> None: ...
+    def add_callback(self, args_class: type, callback: Callable[[Any], object]) -> None: ...
+    def add_generic_callback(self, callback: Callable[[int, ServerStatusEventArgs], object]) -> None: ...
+    def run(self) -> None: ...
+    def run_for(self, timeout_ms: int) -> bool: ...
+    def wake(self) -> None: ...
