@@ -25,6 +25,7 @@ void BindText(py::module_& module);
 void BindTimeCodes(py::module_& module);
 void BindChannels(py::module_& module);
 void BindNotifications(py::module_& module);
+void BindCuePoints(py::module_& module);
 
 /// An enum.IntEnum named `name` in `scope` with the given members; a value none of them has reads as
 /// the member named `fallback` (no fallback: a ValueError, as any IntEnum raises).

@@ -73,5 +73,7 @@ PYBIND11_MODULE(plurexdata, module) {
     PlurexPython::BindClips(module);
     PlurexPython::BindText(module);
     PlurexPython::BindChannels(module);
+    // Before the cue points: their change event derives from EventArgs.
     PlurexPython::BindNotifications(module);
+    PlurexPython::BindCuePoints(module);
 }

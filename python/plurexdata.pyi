@@ -5,7 +5,7 @@ public name of the module appears here).
 """
 
 import enum
-from typing import Any, Callable, Dict, List, Optional, Tuple, overload
+from typing import Any, Callable, Dict, List, Optional, Tuple, Union, overload
 
 __version__: str
 
@@ -1089,3 +1089,143 @@ class PlurexServerNotifyer:
     def run(self) -> None: ...
     def run_for(self, timeout_ms: int) -> bool: ...
     def wake(self) -> None: ...
+
+# Cue points
+
+class CuePoint:
+    """A marked position of a clip or of the train, on a server."""
+
+    def __init__(self, *args: object) -> None:
+        """(); (tc, pcx, camera, server_id, umid, kep_id, train); (tc, pcx, camera, server_id, umid, train);
+        (tc, pcx, server_id, umid, train); or (other), a copy: ValueError("Null CuePoint") for None."""
+    tc: int
+    umid: UmId
+    number: int
+    pcx: int
+    camera: str
+    server_id: ServerId
+    kep_id: KepId
+    train: bool
+    zoom: int
+    def compare_to(self, other: Optional[CuePoint]) -> int:
+        """The servers' difference, else the low 32 bits of the positions' difference; 1 for None."""
+    def equals(self, other: Optional[CuePoint]) -> bool: ...
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+    def __lt__(self, other: CuePoint) -> bool: ...
+    def __gt__(self, other: CuePoint) -> bool: ...
+
+class CuePointClip:
+    """A clip's cue points, as the registry lists them."""
+
+    def __init__(self, *args: object) -> None:
+        """() or (umid, capacity)."""
+    @property
+    def umid(self) -> UmId: ...
+    @property
+    def capacity(self) -> int: ...
+    @property
+    def cue_point_count(self) -> int: ...
+    @property
+    def cue_points(self) -> List[CuePoint]:
+        """A copy of the list."""
+    def get_item(self, i: int) -> CuePoint:
+        """IndexError outside the list."""
+
+class CuePointCopyCommand:
+    """Copies the cue points of a range of one clip (or the train) to another."""
+
+    def __init__(self, *args: object) -> None:
+        """(); (source, train, destination, field_in, field_out, camera, server_id, kep_id); or (other)."""
+    @property
+    def clip_id_source(self) -> UmId: ...
+    def set_clip_id_source(self, source: UmId, train: bool) -> None: ...
+    @property
+    def train(self) -> bool: ...
+    clip_id_destination: UmId
+    field_in: int
+    field_out: int
+    camera: str
+    server_id: ServerId
+    kep_id: KepId
+
+class CuePointDeleteCommand:
+    """Names the clip (or the train) whose cue points go."""
+
+    def __init__(self, *args: object) -> None:
+        """(); (clip_id, train); or (other)."""
+    @property
+    def clip_id(self) -> UmId: ...
+    def set_clip_id(self, clip_id: UmId, train: bool) -> None: ...
+    @property
+    def train(self) -> bool: ...
+    def clear(self) -> None: ...
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+
+class CuePointDbEventType(enum.IntEnum):
+    CuePointAdded = 1
+    CuePointRemoved = 2
+    CuePointsRemovedAll = 4
+
+class CuePointDbEventArgs(EventArgs):
+    """A change of a cue point registry."""
+
+    def __init__(self, user: int, type: int, *args: object) -> None:
+        """(user, type), (user, type, delete_command) or (user, type, cue_point)."""
+    @property
+    def user(self) -> int: ...
+    @property
+    def type(self) -> CuePointDbEventType: ...
+    @property
+    def delete_command(self) -> CuePointDeleteCommand: ...
+    @property
+    def cue_point(self) -> CuePoint: ...
+
+class CuePointUsers:
+    """The cue points of users 0 to 3 (any other user: nothing is done, 0, False or empty). Every
+    registry raises the one process-wide change event, synchronously."""
+
+    USER_COUNT: int
+    MAX_TRAIN_CUE_POINTS: int
+    MAX_CLIP_CUE_POINTS: int
+    def __init__(self) -> None: ...
+    def add_cue_point(self, user: int, cue_point: CuePoint) -> int:
+        """0 not added, 1 already there, 2 added; writes the number (and more) into `cue_point`."""
+    def remove_cue_point(self, user: int, cue_point: CuePoint) -> bool: ...
+    def find_cue_point(self, user: int, cue_point: CuePoint) -> int:
+        """The number of the cue point found, written into `cue_point`; 0 when none is."""
+    def find_cue_point_by_zoom(self, user: int, cue_point: CuePoint) -> int: ...
+    def find_cue_point_after(self, user: int, key: CuePoint, found: CuePoint) -> bool:
+        """Whether one follows `key`; then it is written into `found`."""
+    def find_cue_point_before(self, user: int, key: CuePoint, found: CuePoint) -> bool: ...
+    def copy_cue_point(self, user: int, command: CuePointCopyCommand) -> None: ...
+    def get_cue_point_count(self, user: int, umid: Union[UmId, str], train: bool) -> int: ...
+    def get_cue_point_list(self, user: int, umid: Union[UmId, str], train: bool) -> List[CuePoint]: ...
+    def is_list_empty(self, user: int, umid: str, train: bool) -> bool: ...
+    def get_clip_list(self, user: int) -> List[CuePointClip]: ...
+    def get_current_clip_to_delete(self, user: int, slot: int) -> CuePointDeleteCommand: ...
+    def set_current_clip_to_delete(self, user: int, slot: int, command: CuePointDeleteCommand) -> None: ...
+    def clear_all_current_clip_to_delete(self, user: int) -> None: ...
+    def set_current_user_command(self, user: int, command: int) -> None: ...
+    def get_current_user_command(self, user: int) -> int: ...
+    def remove_all_cue_point_of_clip(self, user: int) -> None: ...
+    def remove_all_cue_point_of_user(self, user: int, command: CuePointDeleteCommand = ...) -> None:
+        """Without a command, the train's cue points are saved to the cache first."""
+    def set_cue_points_into_cache(self, user: int) -> None: ...
+    def set_cache_user(self, user: int, controller: int) -> None: ...
+    def has_cache_cue_points(self, user: int, controller: int) -> bool: ...
+    def set_cue_point(self, controller: int, user: int) -> None:
+        """Restores the user's cue points saved under `controller` (note the order)."""
+    @staticmethod
+    def fill_cue_point(tc: int, server: int, camera: str, train: bool, pcx: int, umid: str, kep: int, cue_point: CuePoint) -> None: ...
+    @staticmethod
+    def invoke_cue_point_db_callback(args: CuePointDbEventArgs) -> None:
+        """Calls every listener of the change event with `args`."""
+    @staticmethod
+    def add_listener(listener: Callable[[CuePointDbEventArgs], object]) -> int:
+        """Adds a listener to the process-wide change event; its token for remove_listener. The module
+        removes its listeners when the interpreter exits."""
+    @staticmethod
+    def remove_listener(token: int) -> bool:
+        """Whether a listener with `token` was there to remove."""
