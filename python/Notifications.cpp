@@ -42,7 +42,7 @@ using I16 = std::int16_t;
 template <class X, class Base>
 using Class = py::class_<X, Base, std::shared_ptr<X>>;
 
-// What the constructors give a Clip parameter: Clip is not bound yet, so the clips are empty records.
+// What the constructors give a Clip parameter: they take no clips yet, so the clips are empty records.
 const Clip& NoClip() {
     static const Clip clip;
     return clip;
