@@ -1,5 +1,5 @@
-// The player and recorder states, the parts of them that their equality and CompareStatus read, and
-// the masks CompareStatus returns, as enum.IntFlag.
+// The player and recorder states with their clips, timecodes and boundaries, and the masks
+// CompareStatus returns, as enum.IntFlag.
 #include "Bindings.h"
 #include "EnumCasters.h"
 
@@ -8,16 +8,21 @@
 #include <pybind11/operators.h>
 #include <pybind11/stl.h>
 
+#include <algorithm>
 #include <array>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace PlurexPython {
 
 namespace Channels = Korv::Plurex::Data::Channels;
-namespace Clips = Korv::Plurex::Data::Clips;
 using Channels::PlayerClipOnAir;
 using Channels::PlayerInfoOnAir;
 using Channels::PlayerState;
 using Channels::RecorderState;
+using Korv::TimePoints::TimeCode;
+using Korv::TimePoints::TimePoint;
 
 namespace {
 
@@ -37,6 +42,43 @@ void DefineChannelState(Class& cls) {
         .def(py::self == py::self)
         .def(py::self != py::self);
     cls.attr("NAME_SIZE") = Channels::ChannelState::NameSize;
+}
+
+// A player state's boundary, held by unique_ptr and replaced whole, so Python gets and gives copies:
+// a reference could outlive the boundary it names.
+template <std::unique_ptr<Channels::Boundary> PlayerState::*Member>
+std::unique_ptr<Channels::Boundary> GetBoundary(const PlayerState& self) {
+    const auto& boundary = self.*Member;
+    return boundary ? boundary->Clone() : nullptr;
+}
+
+template <std::unique_ptr<Channels::Boundary> PlayerState::*Member>
+void SetBoundary(PlayerState& self, const Channels::Boundary& boundary) {
+    self.*Member = boundary.Clone();
+}
+
+void BindBoundaries(py::module_& module) {
+    py::class_<Channels::Boundary>(module, "Boundary",
+                                   "A limit of a player's range, of one of several kinds.")
+        .def(
+            "__eq__",
+            [](const Channels::Boundary& self, const Channels::Boundary& other) { return self == other; },
+            py::is_operator())
+        .def(
+            "__ne__",
+            [](const Channels::Boundary& self, const Channels::Boundary& other) { return !(self == other); },
+            py::is_operator())
+        .def("is_empty", &Channels::Boundary::IsEmpty)
+        .def_property_readonly("type", &Channels::Boundary::GetType, "The kind: AbsoluteBoundary.KIND, 0.");
+    py::class_<Channels::AbsoluteBoundary, Channels::Boundary>(module, "AbsoluteBoundary",
+                                                               "A boundary at a time point.")
+        .def(py::init<const TimePoint&>(), py::arg("time_point"), "TimePoint.empty() makes an empty one.")
+        .def_property_readonly("time_point", &Channels::AbsoluteBoundary::GetTimePoint)
+        .def("__repr__",
+             [](const Channels::AbsoluteBoundary& self) {
+                 return "AbsoluteBoundary(TimePoint(" + std::to_string(self.GetTimePoint().GetValue()) + "))";
+             })
+        .attr("KIND") = Channels::AbsoluteBoundary::Kind;
 }
 
 void BindPlayer(py::module_& module) {
@@ -72,22 +114,14 @@ void BindPlayer(py::module_& module) {
         .def(py::self == py::self)
         .def(py::self != py::self);
 
-    // Clip is not bound yet: of the clip, only its first text (what CompareStatus reads) is reached.
     py::class_<PlayerClipOnAir>(module, "PlayerClipOnAir", "A clip that a player has on air.")
         .def(py::init<>())
+        .def_readwrite("clip", &PlayerClipOnAir::clip,
+                       "The clip, changed in place; CompareStatus reads its text1 only.")
         .def_readwrite("clip_present", &PlayerClipOnAir::clipPresent)
         .def_readwrite("time_value", &PlayerClipOnAir::timeValue)
         .def_readwrite("first_timecode", &PlayerClipOnAir::firstTimecode)
         .def_readwrite("second_timecode", &PlayerClipOnAir::secondTimecode)
-        .def_property(
-            "clip_text1",
-            [](const PlayerClipOnAir& self) {
-                return Clips::GetTextUtf8(self.clip, Clips::TextField::Text1);
-            },
-            [](PlayerClipOnAir& self, const std::string& text) {
-                Clips::SetTextUtf8(self.clip, Clips::TextField::Text1, text);
-            },
-            "The clip's first text (text1), ISO 8859-1, at most 8 characters.")
         .def(py::self == py::self)
         .def(py::self != py::self);
 
@@ -120,6 +154,25 @@ void BindPlayer(py::module_& module) {
             },
             "The two clips on air, changed in place.")
         .def_readwrite("time_values", &PlayerState::timeValues)
+        .def_property(
+            "timecodes",
+            [](const PlayerState& self) {
+                return std::vector<TimeCode>(self.timecodes.begin(), self.timecodes.end());
+            },
+            [](PlayerState& self, const std::vector<TimeCode>& timecodes) {
+                if (timecodes.size() != PlayerState::TimecodeCount) {
+                    throw py::value_error("timecodes takes " + std::to_string(PlayerState::TimecodeCount) +
+                                          " timecodes, got " + std::to_string(timecodes.size()));
+                }
+                std::copy(timecodes.begin(), timecodes.end(), self.timecodes.begin());
+            },
+            "The eight timecodes, read and written whole.")
+        .def_property("in_boundary", &GetBoundary<&PlayerState::inBoundary>,
+                      &SetBoundary<&PlayerState::inBoundary>,
+                      "A copy of the in limit; setting stores a copy.")
+        .def_property("out_boundary", &GetBoundary<&PlayerState::outBoundary>,
+                      &SetBoundary<&PlayerState::outBoundary>,
+                      "A copy of the out limit; setting stores a copy.")
         .def("compare_status", &PlayerState::CompareStatus, py::arg("other"),
              "The changes from this state to `other`.");
     player.attr("TIME_VALUE_COUNT") = PlayerState::TimeValueCount;
@@ -133,7 +186,6 @@ void BindRecorder(py::module_& module) {
         .def(py::init<unsigned int, unsigned int>(), py::arg("first_id"), py::arg("second_id"))
         .def(py::init<const RecorderState&>(), py::arg("other"));
     DefineChannelState<RecorderState>(recorder);
-    // The clip is left out until Clip is bound; clip_present still takes part in equality.
     recorder.def_readwrite("status", &RecorderState::status)
         .def_readwrite("flag_byte", &RecorderState::flagByte)
         .def_readwrite("first_time_value", &RecorderState::firstTimeValue)
@@ -143,6 +195,8 @@ void BindRecorder(py::module_& module) {
         .def_readwrite("first_value", &RecorderState::firstValue)
         .def_readwrite("second_value", &RecorderState::secondValue)
         .def_readwrite("third_value", &RecorderState::thirdValue)
+        .def_readwrite("clip", &RecorderState::clip,
+                       "The clip, changed in place; compared only while clip_present is set.")
         .def_readwrite("clip_present", &RecorderState::clipPresent)
         .def("compare_status", &RecorderState::CompareStatus, py::arg("other"),
              "The changes from this state to `other`: name and status only.");
@@ -152,6 +206,7 @@ void BindRecorder(py::module_& module) {
 
 void BindChannels(py::module_& module) {
     module.attr("UNSET_TIME") = Channels::UnsetTime;
+    BindBoundaries(module);
     BindPlayer(module);
     BindRecorder(module);
 }

@@ -209,6 +209,8 @@ void BindClips(py::module_& module) {
                           "A clip as a server describes it: the fields of its 290-byte record.");
     clip.attr("RECORD_SIZE") = Serializer::RecordSize;
     clip.def(py::init<>(), "The defaults of a new clip.")
+        .def_static("default_timecode", &Clip::DefaultTimecode,
+                    "The timecode a new clip, and a channel state, starts with.")
         .def_static(
             "from_bytes",
             [](const py::bytes& data, bool bigEndian) {

@@ -42,12 +42,6 @@ using I16 = std::int16_t;
 template <class X, class Base>
 using Class = py::class_<X, Base, std::shared_ptr<X>>;
 
-// What the constructors give a Clip parameter: they take no clips yet, so the clips are empty records.
-const Clip& NoClip() {
-    static const Clip clip;
-    return clip;
-}
-
 // The Python object of arguments that came from Python: the one the caller passed in, found again
 // from its C++ value.
 py::object Existing(const EventArgs& args) {
@@ -84,14 +78,46 @@ std::function<void(Type, const Args&)> Generic(const GilObject& callable) {
 
 // ---- Event arguments ----------------------------------------------------------------------------
 
+// Defines the constructor of a clip command's arguments: the six values every one starts with, then
+// parameters of types `Rest` named by `names`.
+template <class... Rest, class Cls, class... Names>
+Cls& CommandInit(Cls& cls, Names... names) {
+    return cls.def(py::init<U32, Source, U32, U16, const Data::Guid&, long long, Rest...>(),
+                   py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
+                   py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), names...);
+}
+
+// The same for a failure, whose result and error code follow the six; with their two properties.
+template <class... Rest, class Cls, class... Names>
+Cls& FailedInit(Cls& cls, Names... names) {
+    using X = typename Cls::type;
+    return CommandInit<Result, I16, Rest...>(cls, py::arg("result"), py::arg("error_code"), names...)
+        .def_property_readonly("result", &X::GetResult)
+        .def_property_readonly("error_code", &X::GetErrorCode);
+}
+
+// Arguments are immutable, so their clips are given as copies.
+template <class Cls, class Getter>
+void DefineClip(Cls& cls, const char* name, Getter getter) {
+    cls.def_property_readonly(name, getter, py::return_value_policy::copy);
+}
+
+// Update and move: two clips, in the arguments and in their failure; their success is bound apart.
+template <class X, class Failed>
+void BindTwoClips(py::module_& module, const char* name, const char* failedName) {
+    Class<X, ClipCommandEventArgs> cls(module, name);
+    CommandInit<const Clip&, const Clip&>(cls, py::arg("first_clip"), py::arg("second_clip"));
+    DefineClip(cls, "first_clip", &X::GetFirstClip);
+    DefineClip(cls, "second_clip", &X::GetSecondClip);
+    Class<Failed, X> failed(module, failedName);
+    FailedInit<const Clip&, const Clip&>(failed, py::arg("first_clip"), py::arg("second_clip"));
+}
+
 void BindClipCommandArgs(py::module_& module) {
     Class<ClipCommandEventArgs, CommandEventArgs> command(module, "ClipCommandEventArgs",
                                                           "What every clip command event carries.");
     MakeIntEnum(command, "RequestSource", {{"Local", 0}, {"Network", 1}, {"Unknown", 2}});
-    command
-        .def(py::init<U32, Source, U32, U16, const Data::Guid&, long long>(), py::arg("command_number"),
-             py::arg("request_source"), py::arg("third_value"), py::arg("fourth_value"),
-             py::arg("command_guid"), py::arg("value64"))
+    CommandInit<>(command)
         .def_property_readonly("command_number", &ClipCommandEventArgs::GetCommandNumber)
         .def_property_readonly("request_source", &ClipCommandEventArgs::GetRequestSource)
         .def_property_readonly("third_value", &ClipCommandEventArgs::GetThirdValue)
@@ -103,166 +129,73 @@ void BindClipCommandArgs(py::module_& module) {
         .def("request_source_string", &ClipCommandEventArgs::GetRequestSourceString, py::arg("short_form"),
              "\"Local\", \"Network\" or \"Unknown\"; \"LR\", \"NR\" or \"UR\" in short form.");
 
-    Class<ClipCreationEventArgs, ClipCommandEventArgs> creation(
-        module, "ClipCreationEventArgs", "A clip made, copied or restored; its clips are empty records.");
+    // Creation: two clips and how the clip came to be.
+    Class<ClipCreationEventArgs, ClipCommandEventArgs> creation(module, "ClipCreationEventArgs",
+                                                                "A clip made, copied or restored.");
     MakeIntEnum(creation, "CreationType",
                 {{"Make", 0}, {"Copy", 1}, {"QorvaneRestore", 2}, {"DrovikRestore", 3}});
     MakeIntEnum(creation, "NetworkType",
                 {{"Sdti", 0}, {"Drovik", 1}, {"PushSdti", 3}, {"PushDrovik", 4}, {"PushUnknown", 5}});
     using CreationType = ClipCreationEventArgs::CreationType;
     using NetworkType = ClipCreationEventArgs::NetworkType;
-    creation
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, CreationType creationType, NetworkType networkType) {
-                 return std::make_shared<ClipCreationEventArgs>(number, source, third, fourth, guid, value64,
-                                                                NoClip(), NoClip(), creationType,
-                                                                networkType);
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("creation_type"),
-             py::arg("network_type"))
+    CommandInit<const Clip&, const Clip&, CreationType, NetworkType>(
+        creation, py::arg("clip_before"), py::arg("clip_after"), py::arg("creation_type"),
+        py::arg("network_type"))
         .def_property_readonly("creation_type", &ClipCreationEventArgs::GetCreationType)
         .def_property_readonly("network_type", &ClipCreationEventArgs::GetNetworkType)
         .def_property_readonly("creation_type_string", &ClipCreationEventArgs::GetCreationTypeString)
         .def_property_readonly("network_type_string", &ClipCreationEventArgs::GetNetworkTypeString);
+    DefineClip(creation, "clip_before", &ClipCreationEventArgs::GetClipBefore);
+    DefineClip(creation, "clip_after", &ClipCreationEventArgs::GetClipAfter);
+    Class<ClipCreationFinishedEventArgs, ClipCreationEventArgs> finished(module,
+                                                                         "ClipCreationFinishedEventArgs");
+    CommandInit<const Clip&, const Clip&, CreationType, NetworkType>(
+        finished, py::arg("clip_before"), py::arg("clip_after"), py::arg("creation_type"),
+        py::arg("network_type"));
+    Class<ClipCreationFailedEventArgs, ClipCreationEventArgs> failed(module, "ClipCreationFailedEventArgs");
+    FailedInit<const Clip&, const Clip&, CreationType, NetworkType>(
+        failed, py::arg("clip_before"), py::arg("clip_after"), py::arg("creation_type"),
+        py::arg("network_type"));
 
-    Class<ClipCreationFinishedEventArgs, ClipCreationEventArgs>(module, "ClipCreationFinishedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, CreationType creationType, NetworkType networkType) {
-                 return std::make_shared<ClipCreationFinishedEventArgs>(number, source, third, fourth, guid,
-                                                                        value64, NoClip(), NoClip(),
-                                                                        creationType, networkType);
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("creation_type"),
-             py::arg("network_type"));
-
-    Class<ClipCreationFailedEventArgs, ClipCreationEventArgs>(module, "ClipCreationFailedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, Result result, I16 errorCode, CreationType creationType,
-                         NetworkType networkType) {
-                 return std::make_shared<ClipCreationFailedEventArgs>(number, source, third, fourth, guid,
-                                                                      value64, result, errorCode, NoClip(),
-                                                                      NoClip(), creationType, networkType);
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("result"),
-             py::arg("error_code"), py::arg("creation_type"), py::arg("network_type"))
-        .def_property_readonly("result", &ClipCreationFailedEventArgs::GetResult)
-        .def_property_readonly("error_code", &ClipCreationFailedEventArgs::GetErrorCode);
-
-    // Update, move: two clips; deletion: one clip and two bytes.
-    Class<ClipUpdateEventArgs, ClipCommandEventArgs>(module, "ClipUpdateEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64) {
-                 return std::make_shared<ClipUpdateEventArgs>(number, source, third, fourth, guid, value64,
-                                                              NoClip(), NoClip());
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"));
-    Class<ClipUpdateFinishedEventArgs, ClipUpdateEventArgs>(module, "ClipUpdateFinishedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, bool flag) {
-                 return std::make_shared<ClipUpdateFinishedEventArgs>(number, source, third, fourth, guid,
-                                                                      value64, flag, NoClip(), NoClip());
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("flag"))
+    BindTwoClips<ClipUpdateEventArgs, ClipUpdateFailedEventArgs>(module, "ClipUpdateEventArgs",
+                                                                 "ClipUpdateFailedEventArgs");
+    Class<ClipUpdateFinishedEventArgs, ClipUpdateEventArgs> updateFinished(module,
+                                                                           "ClipUpdateFinishedEventArgs");
+    CommandInit<bool, const Clip&, const Clip&>(updateFinished, py::arg("flag"), py::arg("first_clip"),
+                                                py::arg("second_clip"))
         .def_property_readonly("flag", &ClipUpdateFinishedEventArgs::GetFlag);
-    Class<ClipUpdateFailedEventArgs, ClipUpdateEventArgs>(module, "ClipUpdateFailedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, Result result, I16 errorCode) {
-                 return std::make_shared<ClipUpdateFailedEventArgs>(
-                     number, source, third, fourth, guid, value64, result, errorCode, NoClip(), NoClip());
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("result"),
-             py::arg("error_code"))
-        .def_property_readonly("result", &ClipUpdateFailedEventArgs::GetResult)
-        .def_property_readonly("error_code", &ClipUpdateFailedEventArgs::GetErrorCode);
+    BindTwoClips<ClipMoveEventArgs, ClipMoveFailedEventArgs>(module, "ClipMoveEventArgs",
+                                                             "ClipMoveFailedEventArgs");
+    Class<ClipMoveFinishedEventArgs, ClipMoveEventArgs> moveFinished(module, "ClipMoveFinishedEventArgs");
+    CommandInit<const Clip&, const Clip&>(moveFinished, py::arg("first_clip"), py::arg("second_clip"));
 
-    Class<ClipDeletionEventArgs, ClipCommandEventArgs>(module, "ClipDeletionEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, U8 firstByte, U8 secondByte) {
-                 return std::make_shared<ClipDeletionEventArgs>(number, source, third, fourth, guid, value64,
-                                                                NoClip(), firstByte, secondByte);
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("first_byte"),
-             py::arg("second_byte"))
+    // Deletion: one clip and two bytes; its failure three bytes and two flags more.
+    Class<ClipDeletionEventArgs, ClipCommandEventArgs> deletion(module, "ClipDeletionEventArgs");
+    CommandInit<const Clip&, U8, U8>(deletion, py::arg("clip"), py::arg("first_byte"), py::arg("second_byte"))
         .def_property_readonly("first_byte", &ClipDeletionEventArgs::GetFirstByte)
         .def_property_readonly("second_byte", &ClipDeletionEventArgs::GetSecondByte);
-    Class<ClipDeletionFinishedEventArgs, ClipDeletionEventArgs>(module, "ClipDeletionFinishedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, U8 firstByte, U8 secondByte) {
-                 return std::make_shared<ClipDeletionFinishedEventArgs>(
-                     number, source, third, fourth, guid, value64, NoClip(), firstByte, secondByte);
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("first_byte"),
-             py::arg("second_byte"));
-    Class<ClipDeletionFailedEventArgs, ClipDeletionEventArgs>(module, "ClipDeletionFailedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, Result result, I16 errorCode, U8 firstByte, U8 secondByte,
-                         U8 thirdByte, bool firstFlag, bool secondFlag) {
-                 return std::make_shared<ClipDeletionFailedEventArgs>(
-                     number, source, third, fourth, guid, value64, result, errorCode, NoClip(), firstByte,
-                     secondByte, thirdByte, firstFlag, secondFlag);
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("result"),
-             py::arg("error_code"), py::arg("first_byte"), py::arg("second_byte"), py::arg("third_byte"),
-             py::arg("first_flag"), py::arg("second_flag"))
-        .def_property_readonly("result", &ClipDeletionFailedEventArgs::GetResult)
-        .def_property_readonly("error_code", &ClipDeletionFailedEventArgs::GetErrorCode)
+    DefineClip(deletion, "clip", &ClipDeletionEventArgs::GetClip);
+    Class<ClipDeletionFinishedEventArgs, ClipDeletionEventArgs> deletionFinished(
+        module, "ClipDeletionFinishedEventArgs");
+    CommandInit<const Clip&, U8, U8>(deletionFinished, py::arg("clip"), py::arg("first_byte"),
+                                     py::arg("second_byte"));
+    Class<ClipDeletionFailedEventArgs, ClipDeletionEventArgs> deletionFailed(module,
+                                                                             "ClipDeletionFailedEventArgs");
+    FailedInit<const Clip&, U8, U8, U8, bool, bool>(deletionFailed, py::arg("clip"), py::arg("first_byte"),
+                                                    py::arg("second_byte"), py::arg("third_byte"),
+                                                    py::arg("first_flag"), py::arg("second_flag"))
         .def_property_readonly("third_byte", &ClipDeletionFailedEventArgs::GetThirdByte)
         .def_property_readonly("first_flag", &ClipDeletionFailedEventArgs::GetFirstFlag)
         .def_property_readonly("second_flag", &ClipDeletionFailedEventArgs::GetSecondFlag);
-
-    Class<ClipMoveEventArgs, ClipCommandEventArgs>(module, "ClipMoveEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64) {
-                 return std::make_shared<ClipMoveEventArgs>(number, source, third, fourth, guid, value64,
-                                                            NoClip(), NoClip());
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"));
-    Class<ClipMoveFinishedEventArgs, ClipMoveEventArgs>(module, "ClipMoveFinishedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64) {
-                 return std::make_shared<ClipMoveFinishedEventArgs>(number, source, third, fourth, guid,
-                                                                    value64, NoClip(), NoClip());
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"));
-    Class<ClipMoveFailedEventArgs, ClipMoveEventArgs>(module, "ClipMoveFailedEventArgs")
-        .def(py::init([](U32 number, Source source, U32 third, U16 fourth, const Data::Guid& guid,
-                         long long value64, Result result, I16 errorCode) {
-                 return std::make_shared<ClipMoveFailedEventArgs>(
-                     number, source, third, fourth, guid, value64, result, errorCode, NoClip(), NoClip());
-             }),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("result"),
-             py::arg("error_code"))
-        .def_property_readonly("result", &ClipMoveFailedEventArgs::GetResult)
-        .def_property_readonly("error_code", &ClipMoveFailedEventArgs::GetErrorCode);
 }
 
 // The mass operations: a count.
 template <class X, class Failed>
 void BindMass(py::module_& module, const char* name, const char* failedName) {
-    Class<X, ClipCommandEventArgs>(module, name)
-        .def(py::init<U32, Source, U32, U16, const Data::Guid&, long long, U32>(), py::arg("command_number"),
-             py::arg("request_source"), py::arg("third_value"), py::arg("fourth_value"),
-             py::arg("command_guid"), py::arg("value64"), py::arg("count"))
-        .def_property_readonly("count", &X::GetCount);
-    Class<Failed, X>(module, failedName)
-        .def(py::init<U32, Source, U32, U16, const Data::Guid&, long long, Result, I16, U32>(),
-             py::arg("command_number"), py::arg("request_source"), py::arg("third_value"),
-             py::arg("fourth_value"), py::arg("command_guid"), py::arg("value64"), py::arg("result"),
-             py::arg("error_code"), py::arg("count"))
-        .def_property_readonly("result", &Failed::GetResult)
-        .def_property_readonly("error_code", &Failed::GetErrorCode);
+    Class<X, ClipCommandEventArgs> cls(module, name);
+    CommandInit<U32>(cls, py::arg("count")).def_property_readonly("count", &X::GetCount);
+    Class<Failed, X> failed(module, failedName);
+    FailedInit<U32>(failed, py::arg("count"));
 }
 
 // Creation and update of an angles group: a value, two angles and a list of them.

@@ -1,4 +1,4 @@
-// Rates, timecodes, their calendar fields and the builder that checks them.
+// Rates, time points, timecodes, their calendar fields and the builder that checks them.
 #include "Bindings.h"
 
 #include "PlurexData/PlurexData.h"
@@ -24,6 +24,19 @@ void BindTimeCodes(py::module_& module) {
         .def("__repr__", [](const Rate& self) {
             return "Rate(" + std::to_string(self.GetNumerator()) + ", " +
                    std::to_string(self.GetDenominator()) + ")";
+        });
+
+    py::class_<TimePoints::TimePoint>(module, "TimePoint",
+                                      "A 64-bit time value; TimePoint.empty() marks \"not set\".")
+        .def(py::init<long long>(), py::arg("value"))
+        .def_static("empty", &TimePoints::TimePoint::Empty)
+        .def_property_readonly("value", &TimePoints::TimePoint::GetValue)
+        .def(py::self == py::self)
+        .def(py::self != py::self)
+        .def("__hash__",
+             [](const TimePoints::TimePoint& self) { return py::hash(py::int_(self.GetValue())); })
+        .def("__repr__", [](const TimePoints::TimePoint& self) {
+            return "TimePoint(" + std::to_string(self.GetValue()) + ")";
         });
 
     py::class_<TimePoints::VideoRates>(module, "VideoRates", "The two rates of the video standards.")

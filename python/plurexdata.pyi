@@ -394,6 +394,18 @@ class Rate:
     @property
     def denominator(self) -> int: ...
 
+class TimePoint:
+    """A 64-bit time value; TimePoint.empty() marks "not set"."""
+
+    def __init__(self, value: int) -> None: ...
+    @staticmethod
+    def empty() -> TimePoint: ...
+    @property
+    def value(self) -> int: ...
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+    def __hash__(self) -> int: ...
+
 class VideoRates:
     """The two rates of the video standards."""
 
@@ -478,6 +490,10 @@ class Clip:
     names none; they take any 32-bit number. Texts read and write through the library's text calls,
     8-bit texts in ISO 8859-1 unless a charset is named.
     """
+
+    @staticmethod
+    def default_timecode() -> TimeCode:
+        """The timecode a new clip, and a channel state, starts with."""
 
     RECORD_SIZE: int
 
@@ -623,16 +639,35 @@ class PlayerInfoOnAir:
     def __eq__(self, other: object) -> bool: ...
     def __ne__(self, other: object) -> bool: ...
 
+class Boundary:
+    """A limit of a player's range, of one of several kinds; equal only to one of the same kind."""
+
+    def is_empty(self) -> bool: ...
+    @property
+    def type(self) -> int:
+        """The kind: AbsoluteBoundary.KIND, 0."""
+    def __eq__(self, other: object) -> bool: ...
+    def __ne__(self, other: object) -> bool: ...
+
+class AbsoluteBoundary(Boundary):
+    """A boundary at a time point."""
+
+    KIND: int
+    def __init__(self, time_point: TimePoint) -> None:
+        """TimePoint.empty() makes an empty one."""
+    @property
+    def time_point(self) -> TimePoint: ...
+
 class PlayerClipOnAir:
-    """A clip that a player has on air (of the clip itself, only its first text is reached)."""
+    """A clip that a player has on air."""
 
     def __init__(self) -> None: ...
+    clip: Clip
+    """The clip, changed in place; compare_status reads its text1 only."""
     clip_present: bool
     time_value: int
     first_timecode: TimeCode
     second_timecode: TimeCode
-    clip_text1: str
-    """The clip's first text (Clip::text1), ISO 8859-1, at most 8 characters: what compare_status reads."""
     def __eq__(self, other: object) -> bool: ...
     def __ne__(self, other: object) -> bool: ...
 
@@ -672,13 +707,19 @@ class PlayerState:
     def clips_on_air(self) -> Tuple[PlayerClipOnAir, PlayerClipOnAir]:
         """The two clips on air, changed in place."""
     time_values: List[int]
+    timecodes: List[TimeCode]
+    """The eight timecodes, read and written whole; ValueError for a list of another length."""
+    in_boundary: Boundary
+    """A copy of the in limit; setting stores a copy."""
+    out_boundary: Boundary
+    """A copy of the out limit; setting stores a copy."""
     def compare_status(self, other: PlayerState) -> PlayerState.StatusChange:
         """The changes from this state to `other`."""
     def __eq__(self, other: object) -> bool: ...
     def __ne__(self, other: object) -> bool: ...
 
 class RecorderState:
-    """A snapshot of one record channel (its clip is not reached yet; clip_present is)."""
+    """A snapshot of one record channel."""
 
     class StatusChange(enum.IntFlag):
         # None = 0x0, reached as StatusChange["None"] (None is a keyword)
@@ -703,6 +744,8 @@ class RecorderState:
     first_value: int
     second_value: int
     third_value: int
+    clip: Clip
+    """The clip, changed in place; compared only while clip_present is set."""
     clip_present: bool
     def compare_status(self, other: RecorderState) -> RecorderState.StatusChange:
         """The changes from this state to `other`: name and status only."""
@@ -710,8 +753,7 @@ class RecorderState:
     def __ne__(self, other: object) -> bool: ...
 
 # Event arguments. Enumerations below carry every 32-bit value: a value without a name arrives as the
-# plain int. The classes that hold clips (creation, update, deletion, move) are made with empty clips
-# and do not show them: Clip is not bound yet.
+# plain int. Arguments are immutable: the clips they hold are read as copies.
 
 class OperationResult(enum.IntEnum):
     Success = 0
@@ -777,7 +819,11 @@ class ClipCreationEventArgs(ClipCommandEventArgs):
         PushSdti = 3
         PushDrovik = 4
         PushUnknown = 5
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, creation_type: int, network_type: int) -> None: ...
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, clip_before: Clip, clip_after: Clip, creation_type: int, network_type: int) -> None: ...
+    @property
+    def clip_before(self) -> Clip: ...
+    @property
+    def clip_after(self) -> Clip: ...
     @property
     def creation_type(self) -> int: ...
     @property
@@ -790,29 +836,35 @@ class ClipCreationEventArgs(ClipCommandEventArgs):
 class ClipCreationFinishedEventArgs(ClipCreationEventArgs): ...
 
 class ClipCreationFailedEventArgs(ClipCreationEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, creation_type: int, network_type: int) -> None: ...  # type: ignore[override]
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, clip_before: Clip, clip_after: Clip, creation_type: int, network_type: int) -> None: ...  # type: ignore[override]
     @property
     def result(self) -> int: ...
     @property
     def error_code(self) -> int: ...
 
 class ClipUpdateEventArgs(ClipCommandEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int) -> None: ...
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, first_clip: Clip, second_clip: Clip) -> None: ...
+    @property
+    def first_clip(self) -> Clip: ...
+    @property
+    def second_clip(self) -> Clip: ...
 
 class ClipUpdateFinishedEventArgs(ClipUpdateEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, flag: bool) -> None: ...  # type: ignore[override]
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, flag: bool, first_clip: Clip, second_clip: Clip) -> None: ...  # type: ignore[override]
     @property
     def flag(self) -> bool: ...
 
 class ClipUpdateFailedEventArgs(ClipUpdateEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int) -> None: ...  # type: ignore[override]
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, first_clip: Clip, second_clip: Clip) -> None: ...  # type: ignore[override]
     @property
     def result(self) -> int: ...
     @property
     def error_code(self) -> int: ...
 
 class ClipDeletionEventArgs(ClipCommandEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, first_byte: int, second_byte: int) -> None: ...
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, clip: Clip, first_byte: int, second_byte: int) -> None: ...
+    @property
+    def clip(self) -> Clip: ...
     @property
     def first_byte(self) -> int: ...
     @property
@@ -821,7 +873,7 @@ class ClipDeletionEventArgs(ClipCommandEventArgs):
 class ClipDeletionFinishedEventArgs(ClipDeletionEventArgs): ...
 
 class ClipDeletionFailedEventArgs(ClipDeletionEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, first_byte: int, second_byte: int, third_byte: int, first_flag: bool, second_flag: bool) -> None: ...  # type: ignore[override]
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, clip: Clip, first_byte: int, second_byte: int, third_byte: int, first_flag: bool, second_flag: bool) -> None: ...  # type: ignore[override]
     @property
     def result(self) -> int: ...
     @property
@@ -834,12 +886,16 @@ class ClipDeletionFailedEventArgs(ClipDeletionEventArgs):
     def second_flag(self) -> bool: ...
 
 class ClipMoveEventArgs(ClipCommandEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int) -> None: ...
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, first_clip: Clip, second_clip: Clip) -> None: ...
+    @property
+    def first_clip(self) -> Clip: ...
+    @property
+    def second_clip(self) -> Clip: ...
 
 class ClipMoveFinishedEventArgs(ClipMoveEventArgs): ...
 
 class ClipMoveFailedEventArgs(ClipMoveEventArgs):
-    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int) -> None: ...  # type: ignore[override]
+    def __init__(self, command_number: int, request_source: int, third_value: int, fourth_value: int, command_guid: Guid, value64: int, result: int, error_code: int, first_clip: Clip, second_clip: Clip) -> None: ...  # type: ignore[override]
     @property
     def result(self) -> int: ...
     @property

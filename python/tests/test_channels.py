@@ -2,7 +2,7 @@ import enum
 
 import pytest
 
-from plurexdata import PlayerState, RecorderState
+from plurexdata import AbsoluteBoundary, Clip, PlayerState, RecorderState, TimeCode, TimePoint
 
 Change = PlayerState.StatusChange
 
@@ -17,7 +17,7 @@ def player(mode=0, end=0, position=0, first=False, second=False, text1="CLIP0001
         mode, word1, numerator, denominator, end)
     info.values = [0x7700000000 + position] + [0] * 7  # only the low word is the position
     first_clip, second_clip = state.clips_on_air
-    first_clip.clip_present, first_clip.clip_text1 = first, text1
+    first_clip.clip_present, first_clip.clip.text1 = first, text1
     second_clip.clip_present = second
     return state
 
@@ -80,3 +80,34 @@ def test_states_identity_name_and_equality():
     other = RecorderState(recorder)
     other.flag_byte = 7  # equality leaves the flag byte out
     assert other == recorder
+
+
+def test_clips_timecodes_and_boundaries_take_part_in_equality_only():
+    """What the comparison does not read still makes two states unequal, and is reached in place or whole."""
+    base = PlayerState()
+    assert base.timecodes == [Clip.default_timecode()] * PlayerState.TIMECODE_COUNT
+    assert base.in_boundary == AbsoluteBoundary(TimePoint.empty()) and base.out_boundary.is_empty()
+
+    def changed(change):
+        state = PlayerState(base)
+        change(state)
+        assert state != base and base.compare_status(state) == Change["None"]
+        return state
+
+    changed(lambda s: setattr(s.clips_on_air[0].clip, "text2", "B"))
+    codes = base.timecodes
+    codes[7] = TimeCode(codes[7].rate, 1)
+    assert changed(lambda s: setattr(s, "timecodes", codes)).timecodes[7].total_sample == 1
+    moved = changed(lambda s: setattr(s, "out_boundary", AbsoluteBoundary(TimePoint(5))))
+    boundary = moved.out_boundary  # a copy: replacing the state's own leaves it valid
+    moved.out_boundary = AbsoluteBoundary(TimePoint(6))
+    assert (boundary.time_point.value, boundary.type, boundary.is_empty()) == (5, AbsoluteBoundary.KIND, False)
+    with pytest.raises(ValueError, match="^timecodes takes 8 timecodes, got 7$"):
+        base.timecodes = codes[:7]
+    assert base.timecodes == [Clip.default_timecode()] * 8
+
+    recorder, other = RecorderState(), RecorderState()
+    other.clip.name = "REC"
+    assert recorder == other  # the clip counts only while present
+    recorder.clip_present = other.clip_present = True
+    assert recorder != other and recorder.compare_status(other) == RecorderState.StatusChange["None"]

@@ -15,7 +15,7 @@ def mass_update(count=1):
 
 
 def creation(cls=p.ClipCreationEventArgs):
-    return cls(1, 0, 2, 3, Guid.empty(), 4, p.ClipCreationEventArgs.CreationType.Copy, 2)
+    return cls(1, 0, 2, 3, Guid.empty(), 4, p.Clip(), p.Clip(), p.ClipCreationEventArgs.CreationType.Copy, 2)
 
 
 def recorder(notifier, *lists):
@@ -76,14 +76,14 @@ def test_queued_arguments_stay_alive_and_arrive_as_the_object_sent():
     (lambda: PlurexClipNotifyer().send_event(None), ValueError, "Null EventArgs"),
     (lambda: PlurexClipNotifyer().send_event(None, Type.ClipMove), ValueError, "Null EventArgs"),
     (lambda: PlurexServerNotifyer().send_event(None, 0), ValueError, "Null EventArgs"),
-    (lambda: PlurexClipNotifyer().send_event(p.ClipMoveEventArgs(1, 0, 2, 3, Guid.empty(), 4), Type.MassClipUpdate),
+    (lambda: PlurexClipNotifyer().send_event(p.ClipMoveEventArgs(1, 0, 2, 3, Guid.empty(), 4, p.Clip(), p.Clip()), Type.MassClipUpdate),
      ValueError, "EventArgs do not match the event type"),
     (lambda: PlurexChannelNotifyer().send_event(p.PlayerLoadProcessedEventArgs(),
                                                 p.ChannelCommandEvent.Type.RecorderTransportProcessed),
      ValueError, "EventArgs do not match the event type"),
     (lambda: PlurexServerNotifyer().send_event(p.ServerAddedEventArgs(), p.ServerStatusEvent.Type.ServerRemoved),
      ValueError, "EventArgs do not match the event type"),
-    (lambda: PlurexClipNotifyer().send_event(p.ClipUpdateEventArgs(1, 0, 2, 3, Guid.empty(), 4)), TypeError,
+    (lambda: PlurexClipNotifyer().send_event(p.ClipUpdateEventArgs(1, 0, 2, 3, Guid.empty(), 4, p.Clip(), p.Clip())), TypeError,
      "ClipUpdateEventArgs has no event type of its own in PlurexClipNotifyer: post it with send_event(args, type)"),
     (lambda: PlurexServerNotifyer().send_event(p.PlayerLoadProcessedEventArgs()), TypeError,
      "PlayerLoadProcessedEventArgs has no event type of its own in PlurexServerNotifyer: "
@@ -182,7 +182,7 @@ def test_two_producer_threads_and_a_consuming_main_thread():
 
 def test_argument_classes_read_back_what_they_were_made_with():
     failed = p.ClipDeletionFailedEventArgs(7, 2, 8, 65535, Guid.parse("0123abcd-4567-89ef-0011-223344556677"), -5,
-                                           p.OperationResult.Failure, -3, 1, 2, 3, True, False)
+                                           p.OperationResult.Failure, -3, p.Clip(), 1, 2, 3, True, False)
     assert (failed.command_number, failed.request_source, failed.third_value, failed.fourth_value, failed.value64,
             failed.result, failed.error_code, failed.first_byte, failed.second_byte, failed.third_byte,
             failed.first_flag, failed.second_flag, failed.reserved_word) == (
@@ -207,3 +207,40 @@ def test_argument_classes_read_back_what_they_were_made_with():
     assert player.state == state
     assert player.channel_guid.channel_index == 3 and player.time > 1_600_000_000 * 10**9
     assert p.ServerAddedEventArgs().time == p.StatusEventArgs.UNSET_TIME
+
+
+CREATION = dict(creation_type=0, network_type=5)
+FAILURE = dict(result=1, error_code=-2)
+DELETION = dict(first_byte=1, second_byte=2)
+TWO = ("first_clip", "second_clip")
+
+
+@pytest.mark.parametrize("cls, extra, clips", [
+    (p.ClipCreationEventArgs, CREATION, ("clip_before", "clip_after")),
+    (p.ClipCreationFinishedEventArgs, CREATION, ("clip_before", "clip_after")),
+    (p.ClipCreationFailedEventArgs, {**FAILURE, **CREATION}, ("clip_before", "clip_after")),
+    (p.ClipUpdateEventArgs, {}, TWO),
+    (p.ClipUpdateFinishedEventArgs, dict(flag=True), TWO),
+    (p.ClipUpdateFailedEventArgs, FAILURE, TWO),
+    (p.ClipMoveEventArgs, {}, TWO),
+    (p.ClipMoveFinishedEventArgs, {}, TWO),
+    (p.ClipMoveFailedEventArgs, FAILURE, TWO),
+    (p.ClipDeletionEventArgs, DELETION, ("clip",)),
+    (p.ClipDeletionFinishedEventArgs, DELETION, ("clip",)),
+    (p.ClipDeletionFailedEventArgs, {**FAILURE, **DELETION, "third_byte": 3, "first_flag": 0, "second_flag": 1},
+     ("clip",)),
+])
+def test_clip_arguments_keep_their_clips_as_given(cls, extra, clips):
+    given = {}
+    for name in clips:
+        given[name] = p.Clip()
+        given[name].name = f"{name} é"
+    args = cls(command_number=1, request_source=0, third_value=2, fourth_value=3, command_guid=Guid.empty(),
+               value64=4, **extra, **given)
+    for name, clip in given.items():
+        copy = getattr(args, name)
+        assert copy == clip and copy.name == f"{name} é"
+        copy.name = "changed"  # arguments are immutable: each read is a copy
+        assert getattr(args, name) == clip
+    for name, value in extra.items():
+        assert getattr(args, name) == value
