@@ -45,3 +45,40 @@ def test_every_public_name_of_the_module_is_in_the_stub():
         if name not in declared:
             missing.append(name)
     assert missing == []
+
+
+def runtime_parameters(function, name):
+    """The parameter names of each signature pybind11 wrote at the head of a function's docstring."""
+    for line in (function.__doc__ or "").splitlines():
+        head = line.split(". ", 1)[-1] if line[:1].isdigit() else line
+        if not head.startswith(name + "(") or ") -> " not in head:
+            continue
+        parameters, depth, current = [], 0, ""
+        for char in head[len(name) + 1:head.rindex(") -> ")] + ",":
+            depth += (char in "[(") - (char in "])")
+            if char == "," and depth == 0:
+                parameters.append(current.split(":")[0].strip())
+                current = ""
+            else:
+                current += char
+        yield [p for p in parameters if p not in ("self", "*args", "**kwargs", "")]
+
+
+def test_the_stubs_signatures_name_the_modules_parameters():
+    """Each method the stub spells out takes the parameters, by name and in order, of one of the module's forms."""
+    mismatched = []
+
+    def visit(body, owner, prefix):
+        for node in body:
+            if isinstance(node, ast.ClassDef) and hasattr(owner, node.name):
+                visit(node.body, getattr(owner, node.name), prefix + node.name + ".")
+            elif (isinstance(node, ast.FunctionDef) and not node.args.vararg and hasattr(owner, node.name)
+                  and (node.name == "__init__" or not node.name.startswith("__"))
+                  and not any(getattr(d, "id", "") == "property" for d in node.decorator_list)):
+                stub = [a.arg for a in node.args.args if a.arg not in ("self", "cls")]
+                forms = list(runtime_parameters(getattr(owner, node.name), node.name))
+                if forms and stub not in forms:
+                    mismatched.append((prefix + node.name, stub, forms))
+
+    visit(ast.parse(STUB.read_text()).body, plurexdata, "")
+    assert mismatched == []
