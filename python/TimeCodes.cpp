@@ -75,6 +75,12 @@ void BindTimeCodes(py::module_& module) {
             "fields", [](const TimeCode& self) { return TimeCodeBuilder::FromTimeCode(self).GetFields(); },
             "The calendar and clock fields; IndexError for a timecode no date can show.")
         .def("time_of_day", &TimeCode::ToTimeOfDayString, "\"HH:MM:SS:FF\".")
+        .def("to_timecode_word", &Korv::Plurex::Data::Clips::Serializer::ToTimecodeWord,
+             "The 64-bit word of the clip record, before byte order; ValueError unless the rate is 50/1 or "
+             "60/1.")
+        .def_static("from_timecode_word", &Korv::Plurex::Data::Clips::Serializer::FromTimecodeWord,
+                    py::arg("word"),
+                    "The timecode of a record's 64-bit word: bit 62 gives 60/1, bits 62 and 63 drop-frame.")
         .def(py::self == py::self)
         .def(py::self != py::self)
         .def("__str__", &TimeCode::ToString)

@@ -447,6 +447,11 @@ class TimeCode:
     def fields(self) -> TimeCodeFields:
         """IndexError for a timecode no date can show."""
     def time_of_day(self) -> str: ...
+    def to_timecode_word(self) -> int:
+        """The 64-bit word of the clip record, before byte order; ValueError unless the rate is 50/1 or 60/1."""
+    @staticmethod
+    def from_timecode_word(word: int) -> TimeCode:
+        """The timecode of a record's 64-bit word: bit 62 gives 60/1, bits 62 and 63 drop-frame."""
 
 class TimeCodeBuilder:
     """Calendar and clock fields to be checked (IndexError with the library's message) and counted."""

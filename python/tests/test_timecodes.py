@@ -41,3 +41,19 @@ def test_parse_refusals():
         TimeCode.parse("25:00", VideoRates.rate50())
     with pytest.raises(IndexError, match="^hour 25 must be between 0 and 23$"):
         TimeCode.parse("25:00:00:00", VideoRates.rate50())
+
+
+@pytest.mark.parametrize("code, word, decoded", [
+    (TimeCode(VideoRates.rate50(), 1234, False, 1), 1234, TimeCode(VideoRates.rate50(), 1234)),
+    (TimeCode(VideoRates.rate50(), 1234, True), 1234, TimeCode(VideoRates.rate50(), 1234)),  # no drop bit at 50/1
+    (TimeCode(VideoRates.rate60(), 1234), 0x4000000000000000 | 1234, TimeCode(VideoRates.rate60(), 1234)),
+    (TimeCode(VideoRates.rate60(), 1234, True), 0xC000000000000000 | 1234, TimeCode(VideoRates.rate60(), 1234, True)),
+    (TimeCode(VideoRates.rate60(), -1), 0x7FFFFFFFFFFFFFFF, TimeCode(VideoRates.rate60(), 0x3FFFFFFFFFFFFFFF)),
+])
+def test_timecode_words_of_the_record(code, word, decoded):
+    assert code.to_timecode_word() == word and TimeCode.from_timecode_word(word) == decoded
+
+
+def test_timecode_word_refuses_other_rates():
+    with pytest.raises(ValueError, match="^Timecode rate must be 50/1 or 60/1$"):
+        TimeCode(Rate(30, 1), 5).to_timecode_word()
