@@ -4,10 +4,13 @@
 // Python enumerations from the library's tables.
 
 #include "PlurexData/data/EnumRow.h"
+#include "PlurexData/data/Value.h"
 
 #include <pybind11/pybind11.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -100,6 +103,41 @@ py::str FromLatin1(std::string_view bytes);
 /// A Python string as ISO 8859-1 bytes: ValueError with the library's message for a character that
 /// charset lacks.
 std::string ToLatin1(std::string_view utf8);
+
+/// A fixed number of values as a tuple: a field read whole and written whole, where a list would take
+/// an item's assignment and lose it.
+template <class Values>
+py::tuple Tuple(const Values& values) {
+    py::tuple tuple(std::size(values));
+    for (std::size_t i = 0; i < std::size(values); ++i) {
+        tuple[i] = py::cast(values[i]);
+    }
+    return tuple;
+}
+
+/// Writes `values` over the fixed-size field `target`, or, for another count, changes nothing and
+/// raises ValueError("<name> takes N values, got M").
+template <class Target, class T>
+void AssignWhole(Target& target, const std::vector<T>& values, const char* name) {
+    if (values.size() != std::size(target)) {
+        throw py::value_error(std::string(name) + " takes " + std::to_string(std::size(target)) +
+                              " values, got " + std::to_string(values.size()));
+    }
+    std::copy(values.begin(), values.end(), std::begin(target));
+}
+
+/// A read-write property over a fixed-size field of T, read as a tuple and written whole.
+template <class T, class Owner, class Field, class Class>
+void DefineWhole(Class& cls, const char* name, Field Owner::*field, const char* doc) {
+    cls.def_property(
+        name, [field](const Owner& self) { return Tuple(self.*field); },
+        [field, name](Owner& self, const std::vector<T>& values) { AssignWhole(self.*field, values, name); },
+        doc);
+}
+
+/// The JSON-shaped value tree of the library as Python objects (None, bool, int, float, str, list,
+/// dict), as the tool prints it.
+py::object ToPython(const Korv::Plurex::Data::Value& value);
 
 /// `<`, `<=`, `>` and `>=` of a class from its `<`; `==` and `!=` from its own, and the hash from Hash().
 template <class T, class Class>

@@ -44,6 +44,15 @@ void DefineChannelState(Class& cls) {
     cls.attr("NAME_SIZE") = Channels::ChannelState::NameSize;
 }
 
+// A timecode field read and written as a copy: TimeCode is immutable in Python, and a reference into
+// the owner would change under a reader when the field is assigned.
+template <class Owner>
+void DefineTimecode(py::class_<Owner>& cls, const char* name, TimeCode Owner::*member) {
+    cls.def_property(
+        name, [member](const Owner& self) { return self.*member; },
+        [member](Owner& self, const TimeCode& value) { self.*member = value; });
+}
+
 // A player state's boundary, held by unique_ptr and replaced whole, so Python gets and gives copies:
 // a reference could outlive the boundary it names.
 template <std::unique_ptr<Channels::Boundary> PlayerState::*Member>
@@ -58,8 +67,9 @@ void SetBoundary(PlayerState& self, const Channels::Boundary& boundary) {
 }
 
 void BindBoundaries(py::module_& module) {
-    py::class_<Channels::Boundary>(module, "Boundary",
-                                   "A limit of a player's range, of one of several kinds.")
+    py::class_<Channels::Boundary>(
+        module, "Boundary",
+        "A limit of a player's range, of one of several kinds; equal only to one of the same kind.")
         .def(
             "__eq__",
             [](const Channels::Boundary& self, const Channels::Boundary& other) { return self == other; },
@@ -69,7 +79,8 @@ void BindBoundaries(py::module_& module) {
             [](const Channels::Boundary& self, const Channels::Boundary& other) { return !(self == other); },
             py::is_operator())
         .def("is_empty", &Channels::Boundary::IsEmpty)
-        .def_property_readonly("type", &Channels::Boundary::GetType, "The kind: AbsoluteBoundary.KIND, 0.");
+        .def_property_readonly("type", &Channels::Boundary::GetType,
+                               "The kind of boundary; AbsoluteBoundary.KIND (0) is the only one.");
     py::class_<Channels::AbsoluteBoundary, Channels::Boundary>(module, "AbsoluteBoundary",
                                                                "A boundary at a time point.")
         .def(py::init<const TimePoint&>(), py::arg("time_point"), "TimePoint.empty() makes an empty one.")
@@ -97,15 +108,11 @@ void BindPlayer(py::module_& module) {
             "values",
             [](const PlayerInfoOnAir& self) {
                 std::array<std::int64_t, PlayerInfoOnAir::ValueCount> values{};
-                for (unsigned int i = 0; i < PlayerInfoOnAir::ValueCount; ++i) {
-                    values[i] = self.values[i];
-                }
-                return values;
+                std::copy(std::begin(self.values), std::end(self.values), values.begin());
+                return Tuple(values);
             },
-            [](PlayerInfoOnAir& self, const std::array<std::int64_t, PlayerInfoOnAir::ValueCount>& values) {
-                for (unsigned int i = 0; i < PlayerInfoOnAir::ValueCount; ++i) {
-                    self.values[i] = values[i];
-                }
+            [](PlayerInfoOnAir& self, const std::vector<std::int64_t>& values) {
+                AssignWhole(self.values, values, "values");
             },
             "The eight 64-bit values (words 9 to 24), read and written whole.")
         .def_readwrite("end", &PlayerInfoOnAir::end)
@@ -114,16 +121,16 @@ void BindPlayer(py::module_& module) {
         .def(py::self == py::self)
         .def(py::self != py::self);
 
-    py::class_<PlayerClipOnAir>(module, "PlayerClipOnAir", "A clip that a player has on air.")
-        .def(py::init<>())
+    py::class_<PlayerClipOnAir> clipOnAir(module, "PlayerClipOnAir", "A clip that a player has on air.");
+    clipOnAir.def(py::init<>())
         .def_readwrite("clip", &PlayerClipOnAir::clip,
                        "The clip, changed in place; CompareStatus reads its text1 only.")
         .def_readwrite("clip_present", &PlayerClipOnAir::clipPresent)
         .def_readwrite("time_value", &PlayerClipOnAir::timeValue)
-        .def_readwrite("first_timecode", &PlayerClipOnAir::firstTimecode)
-        .def_readwrite("second_timecode", &PlayerClipOnAir::secondTimecode)
         .def(py::self == py::self)
         .def(py::self != py::self);
+    DefineTimecode(clipOnAir, "first_timecode", &PlayerClipOnAir::firstTimecode);
+    DefineTimecode(clipOnAir, "second_timecode", &PlayerClipOnAir::secondTimecode);
 
     py::class_<PlayerState> player(module, "PlayerState", "A snapshot of one play channel.");
     MakeIntFlag(player, "StatusChange",
@@ -153,20 +160,7 @@ void BindPlayer(py::module_& module) {
                     py::cast(&state.clipsOnAir[1], py::return_value_policy::reference_internal, self));
             },
             "The two clips on air, changed in place.")
-        .def_readwrite("time_values", &PlayerState::timeValues)
-        .def_property(
-            "timecodes",
-            [](const PlayerState& self) {
-                return std::vector<TimeCode>(self.timecodes.begin(), self.timecodes.end());
-            },
-            [](PlayerState& self, const std::vector<TimeCode>& timecodes) {
-                if (timecodes.size() != PlayerState::TimecodeCount) {
-                    throw py::value_error("timecodes takes " + std::to_string(PlayerState::TimecodeCount) +
-                                          " timecodes, got " + std::to_string(timecodes.size()));
-                }
-                std::copy(timecodes.begin(), timecodes.end(), self.timecodes.begin());
-            },
-            "The eight timecodes, read and written whole.")
+
         .def_property("in_boundary", &GetBoundary<&PlayerState::inBoundary>,
                       &SetBoundary<&PlayerState::inBoundary>,
                       "A copy of the in limit; setting stores a copy.")
@@ -175,6 +169,10 @@ void BindPlayer(py::module_& module) {
                       "A copy of the out limit; setting stores a copy.")
         .def("compare_status", &PlayerState::CompareStatus, py::arg("other"),
              "The changes from this state to `other`.");
+    DefineWhole<std::int64_t>(player, "time_values", &PlayerState::timeValues,
+                              "The four time values, read and written whole.");
+    DefineWhole<TimeCode>(player, "timecodes", &PlayerState::timecodes,
+                          "The eight timecodes, read and written whole.");
     player.attr("TIME_VALUE_COUNT") = PlayerState::TimeValueCount;
     player.attr("TIMECODE_COUNT") = PlayerState::TimecodeCount;
 }
@@ -186,12 +184,12 @@ void BindRecorder(py::module_& module) {
         .def(py::init<unsigned int, unsigned int>(), py::arg("first_id"), py::arg("second_id"))
         .def(py::init<const RecorderState&>(), py::arg("other"));
     DefineChannelState<RecorderState>(recorder);
+    DefineTimecode(recorder, "first_timecode", &RecorderState::firstTimecode);
+    DefineTimecode(recorder, "second_timecode", &RecorderState::secondTimecode);
     recorder.def_readwrite("status", &RecorderState::status)
         .def_readwrite("flag_byte", &RecorderState::flagByte)
         .def_readwrite("first_time_value", &RecorderState::firstTimeValue)
         .def_readwrite("second_time_value", &RecorderState::secondTimeValue)
-        .def_readwrite("first_timecode", &RecorderState::firstTimecode)
-        .def_readwrite("second_timecode", &RecorderState::secondTimecode)
         .def_readwrite("first_value", &RecorderState::firstValue)
         .def_readwrite("second_value", &RecorderState::secondValue)
         .def_readwrite("third_value", &RecorderState::thirdValue)

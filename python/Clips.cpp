@@ -61,39 +61,6 @@ std::string Bytes(const py::bytes& data) {
     return std::string(data);
 }
 
-// A value tree as Python's own objects: objects as dicts in their order, arrays as lists.
-py::object ToPython(const Data::Value& value) {
-    switch (value.GetKind()) {
-        case Data::Value::Kind::Null:
-            return py::none();
-        case Data::Value::Kind::Bool:
-            return py::bool_(value.AsBool());
-        case Data::Value::Kind::Int:
-            return py::int_(value.AsInt64());
-        case Data::Value::Kind::UInt:
-            return py::int_(value.AsUInt64());
-        case Data::Value::Kind::Double:
-            return py::float_(value.AsDouble());
-        case Data::Value::Kind::String:
-            return py::str(value.AsString());
-        case Data::Value::Kind::Array: {
-            py::list items;
-            for (const Data::Value& item : value.Items()) {
-                items.append(ToPython(item));
-            }
-            return std::move(items);
-        }
-        case Data::Value::Kind::Object: {
-            py::dict members;
-            for (const auto& [key, member] : value.Members()) {
-                members[py::str(key)] = ToPython(member);
-            }
-            return std::move(members);
-        }
-    }
-    throw std::logic_error("a value of unknown kind");
-}
-
 // Python's objects as a value tree: dicts with string keys, lists and tuples, and the scalars JSON has.
 Data::Value FromPython(const py::handle& object) {
     if (object.is_none()) {
@@ -190,6 +157,39 @@ void BindEssence(py::class_<Clip>& clip, const py::module_& module) {
 }
 
 }  // namespace
+
+// Objects as dicts in their order, arrays as lists.
+py::object ToPython(const Data::Value& value) {
+    switch (value.GetKind()) {
+        case Data::Value::Kind::Null:
+            return py::none();
+        case Data::Value::Kind::Bool:
+            return py::bool_(value.AsBool());
+        case Data::Value::Kind::Int:
+            return py::int_(value.AsInt64());
+        case Data::Value::Kind::UInt:
+            return py::int_(value.AsUInt64());
+        case Data::Value::Kind::Double:
+            return py::float_(value.AsDouble());
+        case Data::Value::Kind::String:
+            return py::str(value.AsString());
+        case Data::Value::Kind::Array: {
+            py::list items;
+            for (const Data::Value& item : value.Items()) {
+                items.append(ToPython(item));
+            }
+            return std::move(items);
+        }
+        case Data::Value::Kind::Object: {
+            py::dict members;
+            for (const auto& [key, member] : value.Members()) {
+                members[py::str(key)] = ToPython(member);
+            }
+            return std::move(members);
+        }
+    }
+    throw std::logic_error("a value of unknown kind");
+}
 
 void BindClips(py::module_& module) {
     MakeIntEnum(module, "TextField",
@@ -298,12 +298,12 @@ void BindClips(py::module_& module) {
         .def_property_readonly(
             "keywords",
             [](const Clip& self) {
-                py::list keywords;
+                std::array<std::string, Clip::KeywordCount> keywords;
                 for (std::size_t k = 0; k < Clip::KeywordCount; ++k) {
-                    keywords.append(Clips::GetTextUtf8(
-                        self, static_cast<TextField>(static_cast<std::size_t>(TextField::Keyword0) + k)));
+                    keywords[k] = Clips::GetTextUtf8(
+                        self, static_cast<TextField>(static_cast<std::size_t>(TextField::Keyword0) + k));
                 }
-                return keywords;
+                return Tuple(keywords);
             })
         .def_property(
             "raw_bytes",
@@ -335,7 +335,7 @@ void BindClips(py::module_& module) {
         .def_readwrite("byte_value", &Clip::byteValue)
         .def_readwrite("value5", &Clip::value5)
         .def_readwrite("value64", &Clip::value64)
-        .def_property_readonly("rate", &Clip::GetRate)
+        .def_property_readonly("rate", &Clip::GetRate, py::return_value_policy::copy)
         .def_property(
             "in_bound_tod_timecode", [](const Clip& self) { return self.inBoundTodTimecode; },
             &Clip::InBoundTodTimecode, "Set: ValueError when the timecode's rate is not the clip's.")

@@ -1,7 +1,8 @@
 // The event arguments, the event types and the three notifiers, with Python callbacks.
 //
 // Threads: send_event and wake may be called from any Python thread; run and run_for release the GIL
-// for as long as the library runs, and each callback takes it again. Lifetime: the queue shares the
+// for as long as the library runs, and each callback takes it again. While one thread runs a
+// notifier, the others may not run it or add callbacks to it (see Guarded). Lifetime: the queue shares the
 // Python object of each event's arguments, so that it lives while queued and the callbacks receive
 // that very object; callbacks and arguments are held through GilObject, which the library may copy
 // and drop without the GIL.
@@ -16,7 +17,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <thread>
 #include <tuple>
 #include <typeinfo>
 #include <vector>
@@ -102,7 +105,8 @@ void DefineClip(Cls& cls, const char* name, Getter getter) {
     cls.def_property_readonly(name, getter, py::return_value_policy::copy);
 }
 
-// Update and move: two clips, in the arguments and in their failure; their success is bound apart.
+// Update and move: two clips, in the arguments and in their failure. Their Finished classes are bound
+// by the caller: update's takes a flag before the clips.
 template <class X, class Failed>
 void BindTwoClips(py::module_& module, const char* name, const char* failedName) {
     Class<X, ClipCommandEventArgs> cls(module, name);
@@ -209,7 +213,7 @@ void BindAnglesGroup(py::module_& module, const char* name, const char* finished
         .def_property_readonly("value", &X::GetValue)
         .def_property_readonly("first_angle", &X::GetFirstAngle, py::return_value_policy::copy)
         .def_property_readonly("second_angle", &X::GetSecondAngle, py::return_value_policy::copy)
-        .def_property_readonly("angles", &X::GetAngles);
+        .def_property_readonly("angles", [](const X& self) { return Tuple(self.GetAngles()); });
     Class<Finished, X>(module, finishedName)
         .def(py::init<U32, const Data::Guid&, U32, Angle, Angle, const Angles&>(), py::arg("command_number"),
              py::arg("command_guid"), py::arg("value"), py::arg("first_angle"), py::arg("second_angle"),
@@ -223,17 +227,18 @@ void BindAnglesGroup(py::module_& module, const char* name, const char* finished
 }
 
 void BindAngles(py::module_& module) {
-    py::class_<Angle>(module, "Angle", "One camera angle of an angles group: five opaque 32-bit words.")
-        .def(py::init<>(), "All five words zero.")
+    py::class_<Angle> angle(module, "Angle",
+                            "One camera angle of an angles group: five opaque 32-bit words.");
+    angle.def(py::init<>(), "All five words zero.")
         .def(py::init([](const std::array<U32, Angle::WordCount>& words) { return Angle{words}; }),
              py::arg("words"))
-        .def_readwrite("words", &Angle::words)
         .def(
             "__eq__", [](const Angle& self, const Angle& other) { return self == other; }, py::is_operator())
         .def(
             "__ne__", [](const Angle& self, const Angle& other) { return self != other; }, py::is_operator())
         .def("__repr__",
              [](const Angle& self) { return py::str("Angle({!r})").format(py::cast(self.words)); });
+    DefineWhole<U32>(angle, "words", &Angle::words, "The five words, read and written whole.");
 
     BindAnglesGroup<AnglesGroupCreationEventArgs, AnglesGroupCreationFinishedEventArgs,
                     AnglesGroupCreationFailedEventArgs>(module, "AnglesGroupCreationEventArgs",
@@ -454,15 +459,64 @@ private:
     }
 };
 
+// A notifier as Python holds it. run and run_for give the GIL up, so another Python thread could
+// change the callback lists the library is walking, or start a second consumer, which the library
+// does not allow and which would crash the interpreter: the thread that runs it is kept here, and
+// those calls from any other thread raise RuntimeError instead. Only touched with the GIL held.
+template <class Notifier>
+struct Guarded : Notifier {
+    std::thread::id runner;
+    int depth = 0;  // a callback may run its notifier again
+};
+
+template <class Notifier>
+using NotifierClass = py::class_<Guarded<Notifier>>;
+
+// Refuses a change of the lists from a thread other than the one running the notifier, if any.
+template <class Notifier>
+void CheckListsFree(const Guarded<Notifier>& self, const std::string& name) {
+    if (self.depth > 0 && self.runner != std::this_thread::get_id()) {
+        throw std::runtime_error(name +
+                                 " is running on another thread: add callbacks before it runs, "
+                                 "or from its callbacks");
+    }
+}
+
+// Marks the notifier run by this thread for the lifetime of the object; made and destroyed with the
+// GIL held.
+template <class Notifier>
+class Running {
+public:
+    Running(Guarded<Notifier>& notifier, const std::string& name) : notifier_(notifier) {
+        if (notifier.depth > 0 && notifier.runner != std::this_thread::get_id()) {
+            throw std::runtime_error(name + " is already running on another thread");
+        }
+        if (notifier.depth++ == 0) {
+            notifier.runner = std::this_thread::get_id();
+        }
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+    ~Running() {
+        if (--notifier_.depth == 0) {
+            notifier_.runner = std::thread::id();
+        }
+    }
+
+private:
+    Guarded<Notifier>& notifier_;
+};
+
 // What the three notifiers share: the one-argument send_event, the specific lists, run, run_for and
 // wake. Each adds its two-argument send_event and its generic lists before.
 template <class Notifier>
-void DefineNotifier(py::class_<Notifier>& cls) {
+void DefineNotifier(NotifierClass<Notifier>& cls) {
+    using Self = Guarded<Notifier>;
     const std::string name = py::str(cls.attr("__name__"));
     cls.def(py::init<>())
         .def(
             "send_event",
-            [name](Notifier& self, EventArgs* args) {
+            [name](Self& self, EventArgs* args) {
                 if (args == nullptr) {
                     Rows<Notifier>::SendNull(self);
                 } else if (!Rows<Notifier>::Send(self, *args)) {
@@ -474,53 +528,64 @@ void DefineNotifier(py::class_<Notifier>& cls) {
             py::arg("args"))
         .def(
             "add_callback",
-            [name](Notifier& self, const py::object& argsClass, const py::function& callback) {
+            [name](Self& self, const py::object& argsClass, const py::function& callback) {
+                CheckListsFree(self, name);
                 if (!Rows<Notifier>::Add(self, argsClass, GilObject(callback))) {
                     throw py::type_error(name + " has no callback list for " +
                                          py::repr(argsClass).cast<std::string>());
                 }
             },
             py::arg("args_class"), py::arg("callback"))
-        .def("run", &Notifier::Run, py::call_guard<py::gil_scoped_release>())
+        .def("run",
+             [name](Self& self) {
+                 Running<Notifier> running(self, name);
+                 py::gil_scoped_release release;
+                 self.Run();
+             })
         .def(
             "run_for",
-            [](Notifier& self, long long timeoutMs) {
+            [name](Self& self, long long timeoutMs) {
+                Running<Notifier> running(self, name);
+                py::gil_scoped_release release;
                 return self.RunFor(std::chrono::milliseconds(timeoutMs));
             },
-            py::arg("timeout_ms"), py::call_guard<py::gil_scoped_release>())
-        .def("wake", &Notifier::Wake);
+            py::arg("timeout_ms"))
+        .def("wake", &Self::Wake);
 }
 
 // The two-argument send_event for a queue whose events have arguments of class Base and type Type.
 template <class Notifier, class Base, class Type>
-void DefineSend(py::class_<Notifier>& cls) {
+void DefineSend(NotifierClass<Notifier>& cls) {
     cls.def(
-        "send_event", [](Notifier& self, Base* args, Type type) { self.SendEvent(Queued(args), type); },
+        "send_event",
+        [](Guarded<Notifier>& self, Base* args, Type type) { self.SendEvent(Queued(args), type); },
         py::arg("args"), py::arg("type"));
 }
 
 // A method appending to a generic list.
 template <class Notifier, class Type, class Base>
-void DefineGeneric(py::class_<Notifier>& cls, const char* name,
+void DefineGeneric(NotifierClass<Notifier>& cls, const char* name,
                    std::vector<std::function<void(Type, const Base&)>> Notifier::*list) {
+    const std::string className = py::str(cls.attr("__name__"));
     cls.def(
         name,
-        [list](Notifier& self, const py::function& callback) {
+        [list, className](Guarded<Notifier>& self, const py::function& callback) {
+            CheckListsFree(self, className);
             (self.*list).push_back(Generic<Type, Base>(GilObject(callback)));
         },
         py::arg("callback"));
 }
 
 void BindNotifiers(py::module_& module) {
-    py::class_<PlurexClipNotifyer> clip(module, "PlurexClipNotifyer",
-                                        "Carries clip events from any thread to callbacks run by run().");
+    NotifierClass<PlurexClipNotifyer> clip(module, "PlurexClipNotifyer",
+                                           "Carries clip events from any thread to callbacks run by run().");
     DefineSend<PlurexClipNotifyer, ClipCommandEventArgs, ClipCommandEvent::Type>(clip);
     DefineSend<PlurexClipNotifyer, ClipStatusEventArgs, ClipStatusEvent::Type>(clip);
     DefineGeneric(clip, "add_generic_command_callback", &PlurexClipNotifyer::genericCommandCallbacks);
     DefineGeneric(clip, "add_generic_status_callback", &PlurexClipNotifyer::genericStatusCallbacks);
     DefineNotifier(clip);
 
-    py::class_<PlurexChannelNotifyer> channel(
+    NotifierClass<PlurexChannelNotifyer> channel(
         module, "PlurexChannelNotifyer", "Carries channel events from any thread to callbacks run by run().");
     DefineSend<PlurexChannelNotifyer, ChannelCommandEventArgs, ChannelCommandEvent::Type>(channel);
     DefineSend<PlurexChannelNotifyer, ChannelStatusEventArgs, ChannelStatusEvent::Type>(channel);
@@ -528,7 +593,7 @@ void BindNotifiers(py::module_& module) {
     DefineGeneric(channel, "add_generic_status_callback", &PlurexChannelNotifyer::genericStatusCallbacks);
     DefineNotifier(channel);
 
-    py::class_<PlurexServerNotifyer> server(
+    NotifierClass<PlurexServerNotifyer> server(
         module, "PlurexServerNotifyer", "Carries server events from any thread to callbacks run by run().");
     DefineSend<PlurexServerNotifyer, ServerStatusEventArgs, ServerStatusEvent::Type>(server);
     DefineGeneric(server, "add_generic_callback", &PlurexServerNotifyer::genericCallbacks);

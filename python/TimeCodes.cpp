@@ -67,7 +67,7 @@ void BindTimeCodes(py::module_& module) {
             "parse", &TimeCode::Parse, py::arg("text"), py::arg("rate"),
             "\"YYYY-MM-DD HH:MM:SS:FF\" or \"HH:MM:SS:FF\" (on 1900-01-01); ';' before FF for drop-frame.")
         .def_static("try_parse", &TimeCode::TryParse, py::arg("text"), py::arg("rate"))
-        .def_property_readonly("rate", &TimeCode::GetRate)
+        .def_property_readonly("rate", &TimeCode::GetRate, py::return_value_policy::copy)
         .def_property_readonly("total_sample", &TimeCode::GetTotalSample)
         .def_property_readonly("drop_frame", &TimeCode::IsDropFrame)
         .def_property_readonly("flag", &TimeCode::GetFlag)
@@ -75,6 +75,11 @@ void BindTimeCodes(py::module_& module) {
             "fields", [](const TimeCode& self) { return TimeCodeBuilder::FromTimeCode(self).GetFields(); },
             "The calendar and clock fields; IndexError for a timecode no date can show.")
         .def("time_of_day", &TimeCode::ToTimeOfDayString, "\"HH:MM:SS:FF\".")
+        .def(
+            "to_dict",
+            [](const TimeCode& self) { return ToPython(Korv::Plurex::Data::Clips::TimecodeToValue(self)); },
+            "As Clip.to_dict shows a timecode: rate, drop, count, and date, time and frame where a date can "
+            "show it.")
         .def("to_timecode_word", &Korv::Plurex::Data::Clips::Serializer::ToTimecodeWord,
              "The 64-bit word of the clip record, before byte order; ValueError unless the rate is 50/1 or "
              "60/1.")
@@ -99,7 +104,7 @@ void BindTimeCodes(py::module_& module) {
         .def_static("from_time_code", &TimeCodeBuilder::FromTimeCode, py::arg("time_code"))
         .def_static("try_from_time_code", &TimeCodeBuilder::TryFromTimeCode, py::arg("time_code"))
         .def_property_readonly("fields", &TimeCodeBuilder::GetFields)
-        .def_property_readonly("rate", &TimeCodeBuilder::GetRate)
+        .def_property_readonly("rate", &TimeCodeBuilder::GetRate, py::return_value_policy::copy)
         .def_property_readonly("drop_frame", &TimeCodeBuilder::IsDropFrame)
         .def_property_readonly("flag", &TimeCodeBuilder::GetFlag)
         .def("is_valid_to_build_with_exception", &TimeCodeBuilder::IsValidToBuildWithexception,

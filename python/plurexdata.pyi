@@ -447,6 +447,8 @@ class TimeCode:
     def fields(self) -> TimeCodeFields:
         """IndexError for a timecode no date can show."""
     def time_of_day(self) -> str: ...
+    def to_dict(self) -> Dict[str, Any]:
+        """As Clip.to_dict shows a timecode: rate, drop, count, and date, time and frame where a date can show it."""
     def to_timecode_word(self) -> int:
         """The 64-bit word of the clip record, before byte order; ValueError unless the rate is 50/1 or 60/1."""
     @staticmethod
@@ -554,7 +556,7 @@ class Clip:
     name: str
     var_id: str
     @property
-    def keywords(self) -> List[str]: ...
+    def keywords(self) -> Tuple[str, ...]: ...
     raw_bytes: bytes
     is_3d: bool
     is_dual: bool
@@ -634,7 +636,7 @@ class PlayerInfoOnAir:
     word6: int
     word7: int
     word8: int
-    values: List[int]
+    values: Tuple[int, ...]
     """The eight 64-bit values (words 9 to 24), read and written whole."""
     end: int
     word26: int
@@ -650,7 +652,7 @@ class Boundary:
     def is_empty(self) -> bool: ...
     @property
     def type(self) -> int:
-        """The kind: AbsoluteBoundary.KIND, 0."""
+        """The kind of boundary; AbsoluteBoundary.KIND (0) is the only one."""
     def __eq__(self, other: object) -> bool: ...
     def __ne__(self, other: object) -> bool: ...
 
@@ -711,9 +713,10 @@ class PlayerState:
     @property
     def clips_on_air(self) -> Tuple[PlayerClipOnAir, PlayerClipOnAir]:
         """The two clips on air, changed in place."""
-    time_values: List[int]
-    timecodes: List[TimeCode]
-    """The eight timecodes, read and written whole; ValueError for a list of another length."""
+    time_values: Tuple[int, ...]
+    """The four time values, read and written whole (any sequence; ValueError for another length)."""
+    timecodes: Tuple[TimeCode, ...]
+    """The eight timecodes, read and written whole (any sequence; ValueError for another length)."""
     in_boundary: Boundary
     """A copy of the in limit; setting stores a copy."""
     out_boundary: Boundary
@@ -768,7 +771,8 @@ class Angle:
     """One camera angle of an angles group: five opaque 32-bit words."""
 
     def __init__(self, words: List[int] = ...) -> None: ...
-    words: List[int]
+    words: Tuple[int, ...]
+    """The five words, read and written whole (any sequence; ValueError for another length)."""
     def __eq__(self, other: object) -> bool: ...
     def __ne__(self, other: object) -> bool: ...
 
@@ -939,7 +943,7 @@ class AnglesGroupCreationEventArgs(ClipCommandEventArgs):
     @property
     def second_angle(self) -> Angle: ...
     @property
-    def angles(self) -> List[Angle]: ...
+    def angles(self) -> Tuple[Angle, ...]: ...
 
 class AnglesGroupCreationFinishedEventArgs(AnglesGroupCreationEventArgs): ...
 
@@ -959,7 +963,7 @@ class AnglesGroupUpdateEventArgs(ClipCommandEventArgs):
     @property
     def second_angle(self) -> Angle: ...
     @property
-    def angles(self) -> List[Angle]: ...
+    def angles(self) -> Tuple[Angle, ...]: ...
 
 class AnglesGroupUpdateFinishedEventArgs(AnglesGroupUpdateEventArgs): ...
 
@@ -1113,10 +1117,14 @@ class PlurexClipNotifyer:
     def add_generic_status_callback(self, callback: Callable[[int, ClipStatusEventArgs], object]) -> None:
         """Appends `callback(type, args)` to the list every status event reaches."""
     def run(self) -> None:
-        """Delivers the front command event and the front status event, if any."""
+        """Delivers the front command event and the front status event, if any.
+
+        One thread runs a notifier at a time: while it runs, run, run_for and the add_ calls from any
+        other thread raise RuntimeError (its own callbacks may add callbacks)."""
     def run_for(self, timeout_ms: int) -> bool:
         """Waits for an event, a wake or the timeout, then runs as run does unless woken. Whether an event
-        was delivered: False after the timeout with nothing queued, and at once after a wake."""
+        was delivered: False after the timeout with nothing queued, and at once after a wake. A
+        KeyboardInterrupt during the wait is raised when it returns: wait in short slices, or wake it."""
     def wake(self) -> None:
         """Makes the waiting run_for (or else the next one) return False at once; from any thread."""
 

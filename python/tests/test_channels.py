@@ -2,7 +2,8 @@ import enum
 
 import pytest
 
-from plurexdata import AbsoluteBoundary, Clip, PlayerState, RecorderState, TimeCode, TimePoint
+from plurexdata import (AbsoluteBoundary, Angle, Clip, PlayerClipOnAir, PlayerInfoOnAir, PlayerState, Rate,
+                        RecorderState, TimeCode, TimePoint)
 
 Change = PlayerState.StatusChange
 
@@ -85,7 +86,7 @@ def test_states_identity_name_and_equality():
 def test_clips_timecodes_and_boundaries_take_part_in_equality_only():
     """What the comparison does not read still makes two states unequal, and is reached in place or whole."""
     base = PlayerState()
-    assert base.timecodes == [Clip.default_timecode()] * PlayerState.TIMECODE_COUNT
+    assert base.timecodes == (Clip.default_timecode(),) * PlayerState.TIMECODE_COUNT
     assert base.in_boundary == AbsoluteBoundary(TimePoint.empty()) and base.out_boundary.is_empty()
 
     def changed(change):
@@ -95,19 +96,44 @@ def test_clips_timecodes_and_boundaries_take_part_in_equality_only():
         return state
 
     changed(lambda s: setattr(s.clips_on_air[0].clip, "text2", "B"))
-    codes = base.timecodes
+    codes = list(base.timecodes)
     codes[7] = TimeCode(codes[7].rate, 1)
     assert changed(lambda s: setattr(s, "timecodes", codes)).timecodes[7].total_sample == 1
     moved = changed(lambda s: setattr(s, "out_boundary", AbsoluteBoundary(TimePoint(5))))
     boundary = moved.out_boundary  # a copy: replacing the state's own leaves it valid
     moved.out_boundary = AbsoluteBoundary(TimePoint(6))
     assert (boundary.time_point.value, boundary.type, boundary.is_empty()) == (5, AbsoluteBoundary.KIND, False)
-    with pytest.raises(ValueError, match="^timecodes takes 8 timecodes, got 7$"):
+    with pytest.raises(ValueError, match="^timecodes takes 8 values, got 7$"):
         base.timecodes = codes[:7]
-    assert base.timecodes == [Clip.default_timecode()] * 8
+    assert base.timecodes == (Clip.default_timecode(),) * 8
 
     recorder, other = RecorderState(), RecorderState()
     other.clip.name = "REC"
     assert recorder == other  # the clip counts only while present
     recorder.clip_present = other.clip_present = True
     assert recorder != other and recorder.compare_status(other) == RecorderState.StatusChange["None"]
+
+
+@pytest.mark.parametrize("owner, field, size", [
+    (PlayerState(), "time_values", 4), (PlayerState(), "timecodes", 8), (PlayerInfoOnAir(), "values", 8),
+    (Angle(), "words", 5),
+])
+def test_fixed_size_fields_are_tuples_written_whole(owner, field, size):
+    values = getattr(owner, field)
+    assert type(values) is tuple and len(values) == size
+    with pytest.raises(TypeError):
+        values[0] = values[0]  # an item's assignment would be lost: refused
+    setattr(owner, field, list(values))
+    with pytest.raises(ValueError, match=f"^{field} takes {size} values, got {size + 1}$"):
+        setattr(owner, field, values + values[:1])
+    assert getattr(owner, field) == values
+
+
+@pytest.mark.parametrize("make", [PlayerClipOnAir, RecorderState])
+def test_timecode_fields_are_copies(make):
+    owner = make()
+    first = owner.first_timecode
+    rate = first.rate
+    owner.first_timecode = TimeCode(Rate(60, 1), 9)
+    assert (first, rate) == (Clip.default_timecode(), Clip.default_timecode().rate)  # neither followed
+    assert owner.first_timecode.total_sample == 9

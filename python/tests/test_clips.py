@@ -30,7 +30,7 @@ def test_records_round_trip_and_read_as_the_tool_reads_them(tool, name, big_endi
     del expected["record"]
     for key, value in expected.items():
         if key == "keywords":
-            assert clip.keywords == [keyword["text"] for keyword in value]
+            assert clip.keywords == tuple(keyword["text"] for keyword in value)
         elif key == "essences":
             for essence, want in zip(clip.essences, value):
                 for field, figure in want.items():
@@ -81,8 +81,10 @@ def test_unnamed_values_survive_and_named_ones_read_as_members():
 
 def test_standard_timecodes_and_essences():
     clip = Clip()
-    assert clip.rate == VideoRates.rate50() and clip.video_standard is plurexdata.VideoStandard.Pal
+    rate = clip.rate
+    assert rate == VideoRates.rate50() and clip.video_standard is plurexdata.VideoStandard.Pal
     clip.video_standard = plurexdata.VideoStandard.Ntsc
+    assert rate == VideoRates.rate50() and clip.rate == VideoRates.rate60()  # a copy, not the clip's own
     assert clip.in_bound_tod_timecode.rate == VideoRates.rate60()  # rebuilt at the new rate
     with pytest.raises(ValueError, match="^Timecode Rate inconsistent with Clip Rate$"):
         clip.in_bound_tod_timecode = TimeCode(VideoRates.rate50(), 0)

@@ -197,7 +197,7 @@ def test_argument_classes_read_back_what_they_were_made_with():
     angles = [p.Angle([1, 2, 3, 4, 5]), p.Angle()]
     group = p.AnglesGroupUpdateFailedEventArgs(1, Guid.empty(), 12345, 9, 3, angles[0], angles[1], angles)
     assert (group.result, group.error_code, group.value, group.first_angle, group.angles) == (
-        12345, 9, 3, angles[0], angles)
+        12345, 9, 3, angles[0], tuple(angles))
 
     state = p.PlayerState(1, 2)
     state.name = "PGM"
@@ -244,3 +244,26 @@ def test_clip_arguments_keep_their_clips_as_given(cls, extra, clips):
         assert getattr(args, name) == clip
     for name, value in extra.items():
         assert getattr(args, name) == value
+
+
+def test_while_one_thread_runs_a_notifier_the_others_may_not_run_it_or_add_callbacks():
+    notifier = PlurexClipNotifyer()
+    added = []
+    # From its own callbacks, the running thread may add callbacks: they see the same run's events.
+    notifier.add_callback(p.MassClipUpdateEventArgs, lambda a: notifier.add_generic_command_callback(
+        lambda t, a: added.append(a.count)))
+    consumer = threading.Thread(target=lambda: notifier.run_for(5000))
+    consumer.start()
+    time.sleep(0.1)
+    message = "^PlurexClipNotifyer is running on another thread: add callbacks before it runs, or from its callbacks$"
+    for call in (lambda: notifier.add_callback(p.MassClipUpdateEventArgs, print),
+                 lambda: notifier.add_generic_status_callback(print)):
+        with pytest.raises(RuntimeError, match=message):
+            call()
+    for call in (notifier.run, lambda: notifier.run_for(0)):
+        with pytest.raises(RuntimeError, match="^PlurexClipNotifyer is already running on another thread$"):
+            call()
+    notifier.send_event(mass_update(7))
+    consumer.join(timeout=5)
+    assert not consumer.is_alive() and added == [7]
+    notifier.add_generic_status_callback(print)  # free again once the run is over

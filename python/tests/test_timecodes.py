@@ -54,6 +54,9 @@ def test_timecode_words_of_the_record(code, word, decoded):
     assert code.to_timecode_word() == word and TimeCode.from_timecode_word(word) == decoded
 
 
-def test_timecode_word_refuses_other_rates():
+def test_timecode_word_quirks_and_dict():
+    assert TimeCode.from_timecode_word(0x8000000000000005) == TimeCode(VideoRates.rate50(), 5)  # drop bit alone
+    assert TimeCode.parse("00:00:01:00", VideoRates.rate50()).to_dict() == {
+        "rate": 50, "drop": False, "count": 50, "date": "1900-01-01", "time": "00:00:01", "frame": 0}
     with pytest.raises(ValueError, match="^Timecode rate must be 50/1 or 60/1$"):
         TimeCode(Rate(30, 1), 5).to_timecode_word()
