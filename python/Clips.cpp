@@ -104,10 +104,44 @@ Data::Value FromPython(const py::handle& object) {
                          " as a clip value");
 }
 
+// The bytes of `data`, which must hold at least one record of `size` bytes: ValueError("<what> is
+// <size> bytes, got N") otherwise, where the library would read nothing and say only 0.
+std::string Record(const py::bytes& data, unsigned int size, const char* what) {
+    std::string bytes(data);
+    if (bytes.size() < size) {
+        throw py::value_error(std::string(what) + " is " + std::to_string(size) + " bytes, got " +
+                              std::to_string(bytes.size()));
+    }
+    return bytes;
+}
+
+const unsigned char* Unsigned(const std::string& bytes) {
+    return reinterpret_cast<const unsigned char*>(bytes.data());
+}
+
 void BindEssence(py::class_<Clip>& clip, const py::module_& module) {
     const py::module_ essences = module.attr("essences");
     py::class_<Clip::Essence> essence(clip, "Essence", "One of a clip's three essences.");
+    essence.attr("RECORD_SIZE") = Serializer::EssenceSize;
     essence.def(py::init<>(), "All zero.")
+        .def(
+            "to_bytes",
+            [](const Clip::Essence& self, bool bigEndian) {
+                unsigned char record[Serializer::EssenceSize];
+                Serializer::SaveEssenceToBuffer(self, record, Serializer::EssenceSize, bigEndian);
+                return py::bytes(reinterpret_cast<const char*>(record), Serializer::EssenceSize);
+            },
+            py::arg("big_endian") = false,
+            "The 15 bytes of the essence in a record; its type is not written.")
+        .def(
+            "load_bytes",
+            [](Clip::Essence& self, const py::bytes& data, bool bigEndian) {
+                const std::string record = Record(data, Serializer::EssenceSize, "an essence record");
+                Serializer::LoadEssenceFromBuffer(Unsigned(record), Serializer::EssenceSize, self, bigEndian);
+            },
+            py::arg("data"), py::arg("big_endian") = false,
+            "Reads the first 15 bytes of `data` into this essence, whose type decides which values its "
+            "setters keep.")
         .def(py::init([](int type) { return Clip::Essence(static_cast<Essences::Type>(type)); }),
              py::arg("type"), "The defaults of the type.")
         .def(
@@ -214,18 +248,23 @@ void BindClips(py::module_& module) {
         .def_static(
             "from_bytes",
             [](const py::bytes& data, bool bigEndian) {
-                const std::string record = Bytes(data);
-                if (record.size() < Serializer::RecordSize) {
-                    throw py::value_error("a clip record is " + std::to_string(Serializer::RecordSize) +
-                                          " bytes, got " + std::to_string(record.size()));
-                }
+                const std::string record = Record(data, Serializer::RecordSize, "a clip record");
                 Clip loaded;
-                Serializer::LoadWithRecordStandard(reinterpret_cast<const unsigned char*>(record.data()),
-                                                   Serializer::RecordSize, loaded, bigEndian);
+                Serializer::LoadWithRecordStandard(Unsigned(record), Serializer::RecordSize, loaded,
+                                                   bigEndian);
                 return loaded;
             },
             py::arg("data"), py::arg("big_endian") = false,
             "The clip of the first 290 bytes of `data`, starting from the record's own video standard.")
+        .def(
+            "load_bytes",
+            [](Clip& self, const py::bytes& data, bool bigEndian) {
+                const std::string record = Record(data, Serializer::RecordSize, "a clip record");
+                Serializer::LoadFromBuffer(Unsigned(record), Serializer::RecordSize, self, bigEndian);
+            },
+            py::arg("data"), py::arg("big_endian") = false,
+            "Reads the first 290 bytes of `data` into this clip at its own standard, as existing readers do; "
+            "a failing timecode leaves the fields before it loaded.")
         .def(
             "to_bytes",
             [](const Clip& self, bool bigEndian) {
@@ -235,9 +274,8 @@ void BindClips(py::module_& module) {
                 return py::bytes(reinterpret_cast<const char*>(record), size);
             },
             py::arg("big_endian") = false,
-            "The record: 290 bytes, fewer when a timecode's rate is neither 50/1 nor 60/1 (the fields after "
-            "it "
-            "move up).")
+            "The record: 290 bytes, fewer when a timecode's rate is neither 50/1 nor 60/1 "
+            "(the fields after it move up).")
         .def_static(
             "detect_byte_order",
             [](const py::bytes& data) {

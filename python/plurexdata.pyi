@@ -507,8 +507,14 @@ class Clip:
     class Essence:
         """One of a clip's three essences."""
 
+        RECORD_SIZE: int
         def __init__(self, type: int = ...) -> None:
             """Without `type`, all zero; with it, the defaults of that type."""
+        def to_bytes(self, big_endian: bool = False) -> bytes:
+            """The 15 bytes of the essence in a record; its type is not written."""
+        def load_bytes(self, data: bytes, big_endian: bool = False) -> None:
+            """Reads the first 15 bytes of `data` into this essence, whose type decides which values its
+            setters keep; ValueError for fewer."""
         def clear(self, type: int) -> None: ...
         def set_metadata(self, value: int) -> bool:
             """False, and nothing changed, for a value the essence's type does not take."""
@@ -532,7 +538,11 @@ class Clip:
         """The defaults of a new clip."""
     @staticmethod
     def from_bytes(data: bytes, big_endian: bool = False) -> Clip:
-        """The clip of the first 290 bytes of `data`; ValueError for fewer."""
+        """The clip of the first 290 bytes of `data`, starting from the record's own video standard;
+        ValueError for fewer."""
+    def load_bytes(self, data: bytes, big_endian: bool = False) -> None:
+        """Reads the first 290 bytes of `data` into this clip at its own standard, as existing readers do
+        (ValueError for fewer); a failing timecode leaves the fields before it loaded."""
     def to_bytes(self, big_endian: bool = False) -> bytes: ...
     def to_dict(self, charset: str = "iso-8859-1") -> Dict[str, Any]:
         """Every field under the keys of plurex's clip JSON, in the record's order."""

@@ -99,11 +99,33 @@ def test_standard_timecodes_and_essences():
 
 
 def test_record_size_and_byte_order_refusals():
-    with pytest.raises(ValueError, match="^a clip record is 290 bytes, got 289$"):
-        Clip.from_bytes(bytes(289))
+    for read in (Clip.from_bytes, Clip().load_bytes):
+        with pytest.raises(ValueError, match="^a clip record is 290 bytes, got 289$"):
+            read(bytes(289))
+    with pytest.raises(ValueError, match="^an essence record is 15 bytes, got 14$"):
+        Clip.Essence().load_bytes(bytes(14))
     assert Clip.detect_byte_order(b"\x00\x08") is None and Clip.RECORD_SIZE == 290
     with pytest.raises(ValueError, match="^raw_bytes takes 8 bytes, got 7$"):
         Clip().raw_bytes = bytes(7)
+
+
+@pytest.mark.parametrize("name, big_endian", [("clip-le.bin", False), ("clip-be.bin", True)])
+def test_essences_are_the_records_last_45_bytes_and_load_in_place(name, big_endian):
+    record = (EXAMPLES / name).read_bytes()
+    clip = Clip.from_bytes(record, big_endian)
+    for i, essence in enumerate(clip.essences):
+        part = record[245 + 15 * i:260 + 15 * i]
+        assert essence.to_bytes(big_endian) == part and len(part) == Clip.Essence.RECORD_SIZE
+        loaded = Clip.Essence(essence.type)  # the type is not in the record: the essence keeps its own
+        loaded.load_bytes(part, big_endian)
+        assert loaded == essence
+    # An Ntsc record with the legacy drop flag: a reader at another standard loses the flag.
+    assert clip.video_standard == plurexdata.VideoStandard.Ntsc and clip.is_legacy_timecode_drop
+    for standard, kept in ((plurexdata.VideoStandard.Pal, False), (plurexdata.VideoStandard.Ntsc, True)):
+        in_place = Clip()
+        in_place.video_standard = standard
+        in_place.load_bytes(record, big_endian)
+        assert in_place.is_legacy_timecode_drop is kept and (in_place == clip) is kept
 
 
 @pytest.mark.parametrize("name", ["clip-le.bin", "clip-be.bin"])
