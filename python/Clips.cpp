@@ -107,7 +107,7 @@ Data::Value FromPython(const py::handle& object) {
 // The bytes of `data`, which must hold at least one record of `size` bytes: ValueError("<what> is
 // <size> bytes, got N") otherwise, where the library would read nothing and say only 0.
 std::string Record(const py::bytes& data, unsigned int size, const char* what) {
-    std::string bytes(data);
+    std::string bytes = Bytes(data);
     if (bytes.size() < size) {
         throw py::value_error(std::string(what) + " is " + std::to_string(size) + " bytes, got " +
                               std::to_string(bytes.size()));

@@ -467,6 +467,8 @@ template <class Notifier>
 struct Guarded : Notifier {
     std::thread::id runner;
     int depth = 0;  // a callback may run its notifier again
+
+    bool RunByAnotherThread() const { return depth > 0 && runner != std::this_thread::get_id(); }
 };
 
 template <class Notifier>
@@ -475,7 +477,7 @@ using NotifierClass = py::class_<Guarded<Notifier>>;
 // Refuses a change of the lists from a thread other than the one running the notifier, if any.
 template <class Notifier>
 void CheckListsFree(const Guarded<Notifier>& self, const std::string& name) {
-    if (self.depth > 0 && self.runner != std::this_thread::get_id()) {
+    if (self.RunByAnotherThread()) {
         throw std::runtime_error(name +
                                  " is running on another thread: add callbacks before it runs, "
                                  "or from its callbacks");
@@ -488,7 +490,7 @@ template <class Notifier>
 class Running {
 public:
     Running(Guarded<Notifier>& notifier, const std::string& name) : notifier_(notifier) {
-        if (notifier.depth > 0 && notifier.runner != std::this_thread::get_id()) {
+        if (notifier.RunByAnotherThread()) {
             throw std::runtime_error(name + " is already running on another thread");
         }
         if (notifier.depth++ == 0) {
